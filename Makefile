@@ -1,0 +1,28 @@
+# The two commands people need: `make run` and `make test`. Everything installs what it needs.
+.PHONY: test run bench deps food-db format clean
+
+test: deps
+	cmake --preset debug-asan
+	cmake --build --preset debug-asan
+	ctest --preset debug-asan
+
+run: deps
+	@echo "The app is not built yet: the window and its screens come with the app shell."
+
+bench: deps
+	cmake --preset release
+	cmake --build --preset release
+	build/release/bench/calorie-bench
+
+deps:
+	@scripts/install-deps
+
+# Rebuilds resources/food.db from the USDA SR24 data in Debian's cronometer package.
+food-db:
+	tools/food-catalogue/regenerate
+
+format:
+	clang-format -i $$(git ls-files '*.cpp' '*.h')
+
+clean:
+	rm -rf build
