@@ -1,0 +1,90 @@
+#include "support/Fixtures.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <unicode/timezone.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <ctime>
+
+#include "store/DevLog.h"
+
+TempDir::TempDir() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "calorie-test-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) std::abort();
+    path_ = pattern;
+}
+
+TempDir::~TempDir() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+LogCapture::LogCapture() {
+    devlog::setEnabled(true);
+    devlog::setSink([this](std::string_view line) { lines_.emplace_back(line); });
+}
+
+LogCapture::~LogCapture() {
+    devlog::setSink(nullptr);
+    devlog::setEnabled(false);
+}
+
+bool LogCapture::contains(std::string_view line) const { return count(line) > 0; }
+
+size_t LogCapture::count(std::string_view line) const {
+    return static_cast<size_t>(std::count(lines_.begin(), lines_.end(), line));
+}
+
+ScopedTimeZone::ScopedTimeZone(const char* id) {
+    icu::UnicodeString current;
+    std::unique_ptr<icu::TimeZone>(icu::TimeZone::createDefault())->getID(current);
+    current.toUTF8String(previous_);
+    icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(id));
+}
+
+ScopedTimeZone::~ScopedTimeZone() {
+    icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(previous_.c_str()));
+}
+
+FixedClock::FixedClock(Instant now) : now_(now) {
+    Clock::set([this] { return now_; });
+}
+
+FixedClock::~FixedClock() { Clock::set(nullptr); }
+
+Instant utc(const char* text) {
+    std::tm tm{};
+    if (!strptime(text, "%Y-%m-%d %H:%M:%S", &tm)) std::abort();
+    return std::chrono::system_clock::from_time_t(timegm(&tm));
+}
+
+void execSql(const std::string& path, const char* sql) {
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(path.c_str(), &db), SQLITE_OK);
+    char* error = nullptr;
+    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
+    EXPECT_EQ(rc, SQLITE_OK) << (error ? error : "");
+    sqlite3_free(error);
+    sqlite3_close(db);
+}
+
+std::vector<std::string> queryColumn(const std::string& path, const char* sql) {
+    std::vector<std::string> out;
+    sqlite3* db = nullptr;
+    sqlite3_open(path.c_str(), &db);
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr) == SQLITE_OK) {
+        while (sqlite3_step(stmt) == SQLITE_ROW) {
+            const auto* text = sqlite3_column_text(stmt, 0);
+            out.emplace_back(text ? reinterpret_cast<const char*>(text) : "");
+        }
+    } else {
+        ADD_FAILURE() << sqlite3_errmsg(db);
+    }
+    sqlite3_finalize(stmt);
+    sqlite3_close(db);
+    return out;
+}

@@ -1,0 +1,71 @@
+#pragma once
+// Test fixtures that use the real things: folders on disk, the real log, ICU's zone and clock.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/Dates.h"
+
+// A fresh folder under the system's temporary folder, removed with everything in it.
+class TempDir {
+public:
+    TempDir();
+    ~TempDir();
+    TempDir(const TempDir&) = delete;
+    TempDir& operator=(const TempDir&) = delete;
+    const std::filesystem::path& path() const { return path_; }
+    std::string file(std::string_view name) const { return (path_ / name).string(); }
+
+private:
+    std::filesystem::path path_;
+};
+
+// Switches the developer log on and collects its lines for as long as it lives.
+class LogCapture {
+public:
+    LogCapture();
+    ~LogCapture();
+    LogCapture(const LogCapture&) = delete;
+    LogCapture& operator=(const LogCapture&) = delete;
+    const std::vector<std::string>& lines() const { return lines_; }
+    bool contains(std::string_view line) const;
+    size_t count(std::string_view line) const;
+
+private:
+    std::vector<std::string> lines_;
+};
+
+// Makes an ICU time zone the default for as long as it lives.
+class ScopedTimeZone {
+public:
+    explicit ScopedTimeZone(const char* id);
+    ~ScopedTimeZone();
+    ScopedTimeZone(const ScopedTimeZone&) = delete;
+    ScopedTimeZone& operator=(const ScopedTimeZone&) = delete;
+
+private:
+    std::string previous_;
+};
+
+// Fixes Clock::now() for as long as it lives.
+class FixedClock {
+public:
+    explicit FixedClock(Instant now);
+    ~FixedClock();
+    FixedClock(const FixedClock&) = delete;
+    FixedClock& operator=(const FixedClock&) = delete;
+    void set(Instant now) { now_ = now; }
+
+private:
+    Instant now_;
+};
+
+// "2026-11-15 09:30:00" read as UTC.
+Instant utc(const char* text);
+
+// Runs statements on a SQLite file (creating it), failing the test on an error.
+void execSql(const std::string& path, const char* sql);
+// The first column of every row of a query, as text.
+std::vector<std::string> queryColumn(const std::string& path, const char* sql);
