@@ -1,0 +1,37 @@
+import QtQuick
+import "qrc:/ui"
+
+KitScreen {
+    id: layout
+
+    KitScrollView {
+        anchors.fill: parent
+        model: layout.screen.mainscrol
+
+        Text {
+            x: 16; y: 20; width: 288
+            text: "About Calorie Counter"
+            font.family: Theme.fontFamily; font.pixelSize: 20; font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading; Accessible.name: text
+        }
+        KitLabel {
+            id: about
+            x: 16; y: 56; width: 288
+            model: layout.screen.lb1
+            font.pixelSize: 14
+            lineHeight: 1.15
+        }
+        KitLabel {
+            x: 16; y: about.y + about.height + 20; width: 288
+            model: layout.screen.lb2
+            font.pixelSize: 13
+            color: "#555555"
+            lineHeight: 1.15
+        }
+    }
+
+    Component.onCompleted: {
+        screen.lb1.text = MoreTexts.about
+        screen.lb2.text = MoreTexts.data
+    }
+}

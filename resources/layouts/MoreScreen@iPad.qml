@@ -1,0 +1,37 @@
+import QtQuick
+import "qrc:/ui"
+
+KitScreen {
+    id: layout
+
+    KitScrollView {
+        anchors.fill: parent
+        model: layout.screen.mainscrol
+
+        Text {
+            x: 64; y: 40; width: 640
+            text: "About Calorie Counter"
+            font.family: Theme.fontFamily; font.pixelSize: 28; font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading; Accessible.name: text
+        }
+        KitLabel {
+            id: about
+            x: 64; y: 84; width: 640
+            model: layout.screen.lb1
+            font.pixelSize: 19
+            lineHeight: 1.15
+        }
+        KitLabel {
+            x: 64; y: about.y + about.height + 28; width: 640
+            model: layout.screen.lb2
+            font.pixelSize: 17
+            color: "#555555"
+            lineHeight: 1.15
+        }
+    }
+
+    Component.onCompleted: {
+        screen.lb1.text = MoreTexts.about
+        screen.lb2.text = MoreTexts.data
+    }
+}

@@ -1,0 +1,104 @@
+#include "app/AppDelegate.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <QStandardPaths>
+#include <QThread>
+#include <QTimer>
+
+#include "app/TabBar.h"
+#include "setup/MeasureUnitScreen.h"
+#include "store/AppState.h"
+#include "store/DevLog.h"
+#include "ui/Kit.h"
+
+namespace {
+
+// Where the shipped food.db is: beside the program, or in an installed share folder.
+QString shippedFolder() {
+    const QString beside = QCoreApplication::applicationDirPath();
+    if (QFile::exists(beside + "/food.db")) return beside;
+    return beside + "/../share/calorie-counter";
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(const LaunchOptions& options, QObject* parent)
+    : QObject(parent), options_(options), store_(AppState::shared()) {
+    registerKitTypes();
+    Application::setDelegate(this);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState s) {
+        if (s == Qt::ApplicationActive) applicationDidBecomeActive();
+        if (s == Qt::ApplicationInactive) applicationWillResignActive();
+        if (s == Qt::ApplicationSuspended) applicationDidEnterBackground();
+    });
+    connect(qGuiApp, &QCoreApplication::aboutToQuit, this, [this] { applicationWillTerminate(); });
+}
+
+AppDelegate::~AppDelegate() {
+    if (Application::delegate() == this) Application::setDelegate(nullptr);
+}
+
+bool AppDelegate::didFinishLaunchingWithOptions() {
+    AppState& state = AppState::shared();
+
+    // The window, with the launch image, held on purpose before anything else happens.
+    showLaunchImage();
+    QThread::msleep(static_cast<unsigned long>(options_.launchHoldMs));
+
+    dataFolder_ = options_.dataDir.isEmpty()
+                      ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+                      : options_.dataDir;
+    QDir().mkpath(dataFolder_);
+    state.databaseName = "food.db";
+    state.databasePath = QDir(dataFolder_).filePath("food.db").toStdString();
+    DEVLOG("%s", state.databasePath.c_str());
+    store_.checkAndCreateDatabase(shippedFolder().toStdString());
+
+    defaults_ = std::make_unique<SettingsDefaults>(options_.dataDir);
+    state.defaults = defaults_.get();
+
+    state.foodNames.clear();
+    state.foodCalories.clear();
+    state.spareList.clear();
+    state.dailyRows.clear();
+    state.foodUnits.clear();
+
+    state.isPad = options_.pad;
+
+    const bool setUp = defaults_->stringForKey("firstTime") == "no";
+    ViewController* first = nullptr;
+    if (setUp) {
+        first = new TabBar;
+    } else {
+        DEVLOG("firstTime");
+        first = new MeasureUnitScreen(layoutFor("MeasureUnitScreen"));
+    }
+    window_.setRootViewController(new NavigationController(first));
+    window_.setBackgroundPatternImage(state.isPad ? "bgiPad" : "bg");
+
+    quickWindow_->setProperty("launching", false);
+    return true;
+}
+
+void AppDelegate::showLaunchImage() {
+    engine_.setInitialProperties({{"model", QVariant::fromValue(&window_)},
+                                  {"launchImage", options_.pad ? "launchiPad" : "launch"}});
+    engine_.load(QUrl("qrc:/ui/KitWindow.qml"));
+    quickWindow_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));
+    if (!quickWindow_) qFatal("calorie-counter: the window's QML did not load");
+    quickWindow_->setTitle("Calorie Counter");
+    quickWindow_->resize(options_.screen);
+    quickWindow_->show();
+    waitForFrame();
+}
+
+void AppDelegate::waitForFrame() {
+    QEventLoop loop;
+    connect(quickWindow_, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+    QTimer::singleShot(2000, &loop, &QEventLoop::quit);  // no frames on a platform that draws none
+    loop.exec();
+}

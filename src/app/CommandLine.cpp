@@ -1,0 +1,70 @@
+#include "app/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+
+namespace {
+constexpr QSize kPhone(320, 568);
+constexpr QSize kPad(768, 1024);
+
+CommandLineResult fail(const QString& message) { return {std::nullopt, 2, message}; }
+}  // namespace
+
+CommandLineResult parseCommandLine(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        "A calorie counter: book what you eat and burn against a daily budget.");
+    const QCommandLineOption help({"h", "help"}, "Show this help and exit.");
+    const QCommandLineOption idiom("idiom", "Device idiom: phone (320x568) or pad (768x1024).",
+                                   "phone|pad", "phone");
+    const QCommandLineOption screen("screen", "Window size in points, overriding the idiom's.",
+                                    "WxH");
+    const QCommandLineOption dataDir("data-dir",
+                                     "Folder for food.db and the user defaults (created if missing).",
+                                     "DIR");
+    const QCommandLineOption log("log", "Write developer log lines to stderr.");
+    const QCommandLineOption hold("launch-hold-ms", "How long the launch image stays.", "N", "2000");
+    const QCommandLineOption screenshot(
+        "screenshot", "Save the window as PNG once the first screen is shown and idle, then quit.",
+        "FILE");
+    const QCommandLineOption report("report-startup",
+                                    "For benchmarks: print the time to the first frame of the first "
+                                    "screen and the resident memory, then quit.");
+    parser.addOptions({help, idiom, screen, dataDir, log, hold, screenshot, report});
+
+    if (!parser.parse(arguments)) return fail(parser.errorText());
+    if (parser.isSet(help)) return {std::nullopt, 0, parser.helpText()};
+    if (!parser.positionalArguments().isEmpty())
+        return fail("Unexpected argument: " + parser.positionalArguments().first());
+
+    LaunchOptions options;
+    const QString idiomValue = parser.value(idiom);
+    if (idiomValue != "phone" && idiomValue != "pad")
+        return fail("--idiom must be phone or pad, not \"" + idiomValue + "\"");
+    options.pad = idiomValue == "pad";
+    options.screen = options.pad ? kPad : kPhone;
+
+    if (parser.isSet(screen)) {
+        const auto match = QRegularExpression("^(\\d{2,5})x(\\d{2,5})$").match(parser.value(screen));
+        if (!match.hasMatch())
+            return fail("--screen must look like 320x480, not \"" + parser.value(screen) + "\"");
+        options.screen = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    }
+
+    bool ok = false;
+    options.launchHoldMs = parser.value(hold).toInt(&ok);
+    if (!ok || options.launchHoldMs < 0 || options.launchHoldMs > 60000)
+        return fail("--launch-hold-ms must be a whole number of milliseconds from 0 to 60000");
+
+    if (parser.isSet(dataDir)) {
+        options.dataDir = parser.value(dataDir);
+        if (options.dataDir.isEmpty()) return fail("--data-dir needs a folder");
+    }
+    if (parser.isSet(screenshot)) {
+        options.screenshot = parser.value(screenshot);
+        if (options.screenshot.isEmpty()) return fail("--screenshot needs a file name");
+    }
+    options.log = parser.isSet(log);
+    options.reportStartup = parser.isSet(report);
+    return {options, 0, {}};
+}

@@ -1,0 +1,26 @@
+#pragma once
+// The program's command line. A bad option or value is the caller's mistake: it gets a message
+// and status 2, never a start with half-understood settings.
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+struct LaunchOptions {
+    bool pad = false;
+    QSize screen;  // points; the idiom's size unless given
+    QString dataDir;
+    bool log = false;
+    int launchHoldMs = 2000;
+    QString screenshot;
+    bool reportStartup = false;
+};
+
+struct CommandLineResult {
+    std::optional<LaunchOptions> options;  // empty: exit with exitCode after printing message
+    int exitCode = 0;
+    QString message;
+};
+
+CommandLineResult parseCommandLine(const QStringList& arguments);

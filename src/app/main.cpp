@@ -1,0 +1,29 @@
+// The entry point: parse the command line, hand the launch to the application delegate, run.
+#include <QGuiApplication>
+#include <QQuickStyle>
+#include <cstdio>
+
+#include "app/AppDelegate.h"
+#include "app/StartupReport.h"
+#include "store/DevLog.h"
+
+int main(int argc, char** argv) {
+    QGuiApplication::setApplicationName("calorie-counter");
+    QGuiApplication::setOrganizationName("calorie-counter");
+    QGuiApplication app(argc, argv);
+    QQuickStyle::setStyle("Basic");
+
+    const CommandLineResult parsed = parseCommandLine(app.arguments());
+    if (!parsed.options) {
+        std::fprintf(parsed.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(parsed.message));
+        if (parsed.exitCode != 0) std::fprintf(stderr, "Try --help.\n");
+        return parsed.exitCode;
+    }
+    const LaunchOptions& options = *parsed.options;
+    devlog::setEnabled(options.log);
+
+    AppDelegate delegate(options);
+    delegate.didFinishLaunchingWithOptions();
+    StartupReport report(delegate.quickWindow(), options);
+    return app.exec();
+}

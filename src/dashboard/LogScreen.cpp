@@ -1,0 +1,5 @@
+#include "dashboard/LogScreen.h"
+
+LogScreen::LogScreen(const QString& layoutName, QObject* parent) : ViewController(layoutName, parent) {
+    setTitle("Log");
+}

@@ -1,0 +1,5 @@
+#include "food/SearchFoodScreen.h"
+
+SearchFoodScreen::SearchFoodScreen(const QString& layoutName, QObject* parent) : ViewController(layoutName, parent) {
+    setTitle("Search Food");
+}

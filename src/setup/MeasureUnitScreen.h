@@ -1,0 +1,11 @@
+#pragma once
+// The first set-up step: the measuring unit.
+
+#include "ui/ViewController.h"
+
+class MeasureUnitScreen : public ViewController {
+    Q_OBJECT
+
+public:
+    explicit MeasureUnitScreen(const QString& layoutName, QObject* parent = nullptr);
+};

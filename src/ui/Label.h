@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QColor>
+
+#include "ui/View.h"
+
+class Label : public View {
+    Q_OBJECT
+    KIT_PROPERTY(QString, text, setText);
+    KIT_PROPERTY_INIT(QColor, textColor, setTextColor, Qt::black);
+    // As the platform numbers them: 0 left, 1 centre, 2 right, 3 justified.
+    KIT_PROPERTY(int, textAlignment, setTextAlignment);
+    KIT_PROPERTY(QString, fontName, setFontName);  // empty: the layout's font
+    KIT_PROPERTY(qreal, fontSize, setFontSize);    // 0: the layout's size
+
+public:
+    explicit Label(QObject* parent = nullptr) : View(parent) {}
+};

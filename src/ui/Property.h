@@ -1,0 +1,31 @@
+#pragma once
+// A read-write Q_PROPERTY with its member, getter, setter and change signal, for the kit's small
+// view models. The setter emits only on a real change, so QML bindings do not churn.
+
+#define KIT_PROPERTY(Type, name, setter)                                   \
+    Q_PROPERTY(Type name READ name WRITE setter NOTIFY name##Changed)      \
+public:                                                                    \
+    Type name() const { return m_##name; }                                 \
+    void setter(Type const& value) {                                       \
+        if (m_##name == value) return;                                     \
+        m_##name = value;                                                  \
+        emit name##Changed();                                              \
+    }                                                                      \
+    Q_SIGNAL void name##Changed();                                         \
+                                                                           \
+private:                                                                   \
+    Type m_##name {}
+
+#define KIT_PROPERTY_INIT(Type, name, setter, initial)                     \
+    Q_PROPERTY(Type name READ name WRITE setter NOTIFY name##Changed)      \
+public:                                                                    \
+    Type name() const { return m_##name; }                                 \
+    void setter(Type const& value) {                                       \
+        if (m_##name == value) return;                                     \
+        m_##name = value;                                                  \
+        emit name##Changed();                                              \
+    }                                                                      \
+    Q_SIGNAL void name##Changed();                                         \
+                                                                           \
+private:                                                                   \
+    Type m_##name { initial }

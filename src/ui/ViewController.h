@@ -1,0 +1,71 @@
+#pragma once
+// A screen: its title, navigation item, root view and lifecycle. Its layout is the QML file named
+// like layoutName ("TodayScreen", "TodayScreen@iPad"); the layout only places the outlets this
+// class owns and wires controls to its actions, so screen code reads like the behaviour it has.
+
+#include <QObject>
+#include <QString>
+
+#include "ui/NavigationItem.h"
+#include "ui/Property.h"
+#include "ui/View.h"
+
+class NavigationController;
+class TabBarController;
+
+// The tab bar's entry for a screen.
+class TabBarItem : public QObject {
+    Q_OBJECT
+    KIT_PROPERTY(QString, title, setTitle);
+    KIT_PROPERTY(QString, imageName, setImageName);
+
+public:
+    explicit TabBarItem(QObject* parent = nullptr) : QObject(parent) {}
+};
+
+class ViewController : public QObject {
+    Q_OBJECT
+    KIT_PROPERTY(QString, title, setTitle);
+    Q_PROPERTY(QString layoutName READ layoutName CONSTANT)
+    Q_PROPERTY(NavigationItem* navigationItem READ navigationItem CONSTANT)
+    Q_PROPERTY(View* view READ view CONSTANT)
+    Q_PROPERTY(TabBarItem* tabBarItem READ tabBarItem CONSTANT)
+
+public:
+    explicit ViewController(const QString& layoutName = {}, QObject* parent = nullptr);
+
+    QString layoutName() const { return layoutName_; }
+    NavigationItem* navigationItem() { return &navigationItem_; }
+    View* view() { return &view_; }
+    TabBarItem* tabBarItem() { return &tabBarItem_; }
+
+    // The navigation controller whose stack holds this screen, if any.
+    NavigationController* navigationController() const { return navigationController_; }
+    TabBarController* tabBarController() const;
+
+    bool isViewLoaded() const { return viewLoaded_; }
+    void loadViewIfNeeded();
+
+    // Called by the containers; screens override the protected hooks below.
+    void beginAppearance(bool appearing, bool animated);
+    void endAppearance(bool appeared, bool animated);
+
+protected:
+    virtual void viewDidLoad() {}
+    virtual void viewWillAppear(bool /*animated*/) {}
+    virtual void viewDidAppear(bool /*animated*/) {}
+    virtual void viewWillDisappear(bool /*animated*/) {}
+    virtual void viewDidDisappear(bool /*animated*/) {}
+
+private:
+    friend class NavigationController;
+    QString layoutName_;
+    NavigationItem navigationItem_;
+    View view_;
+    TabBarItem tabBarItem_;
+    NavigationController* navigationController_ = nullptr;
+    bool viewLoaded_ = false;
+};
+
+// The layout name for the current idiom: the name as it is on a phone, "@iPad" appended on a pad.
+QString layoutFor(const char* className);

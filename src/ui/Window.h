@@ -1,0 +1,45 @@
+#pragma once
+// The application window as screens see it: a root navigation controller, views added on top
+// of everything (the tab interface), and what is presented over it all (alerts, option sheets).
+
+#include <QList>
+#include <QObject>
+
+#include "ui/NavigationController.h"
+#include "ui/Property.h"
+
+class TabBarController;
+
+class Window : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(NavigationController* rootViewController READ rootViewController NOTIFY rootViewControllerChanged)
+    Q_PROPERTY(QList<QObject*> subviews READ subviews NOTIFY subviewsChanged)
+    Q_PROPERTY(QList<QObject*> presented READ presented NOTIFY presentedChanged)
+    // Tiled behind everything: "bg" on a phone, "bgiPad" on a pad.
+    KIT_PROPERTY(QString, backgroundPatternImage, setBackgroundPatternImage);
+
+public:
+    explicit Window(QObject* parent = nullptr) : QObject(parent) {}
+
+    NavigationController* rootViewController() const { return root_; }
+    // Takes ownership; the controller is shown at once.
+    void setRootViewController(NavigationController* root);
+
+    QList<QObject*> subviews() const { return subviews_; }
+    // Puts the tab interface over everything the window shows; takes ownership.
+    void addSubview(TabBarController* tabs);
+
+    QList<QObject*> presented() const { return presented_; }
+    void present(QObject* modal);
+    void dismiss(QObject* modal);
+
+signals:
+    void rootViewControllerChanged();
+    void subviewsChanged();
+    void presentedChanged();
+
+private:
+    NavigationController* root_ = nullptr;
+    QList<QObject*> subviews_;
+    QList<QObject*> presented_;
+};

@@ -1,0 +1,16 @@
+import QtQuick
+
+// Places item at the model's frame when code has set one; otherwise the layout's geometry holds.
+QtObject {
+    id: frame
+    required property Item item
+    property var model
+    readonly property bool active: !!model && model.frame.width > 0 && model.frame.height > 0
+
+    property list<QtObject> bindings: [
+        Binding { target: frame.item; property: "x"; value: frame.model?.frame.x ?? 0; when: frame.active },
+        Binding { target: frame.item; property: "y"; value: frame.model?.frame.y ?? 0; when: frame.active },
+        Binding { target: frame.item; property: "width"; value: frame.model?.frame.width ?? 0; when: frame.active },
+        Binding { target: frame.item; property: "height"; value: frame.model?.frame.height ?? 0; when: frame.active }
+    ]
+}

@@ -1,0 +1,64 @@
+import QtQuick
+import CalorieKit
+
+// Renders an ActionSheet: the choices in a rounded group at the bottom, then Cancel on its own.
+Rectangle {
+    id: root
+    property ActionSheet model
+    anchors.fill: parent
+    color: "#66000000"
+    MouseArea { anchors.fill: parent }
+
+    Column {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 8 }
+        spacing: 8
+        Rectangle {
+            width: parent.width
+            height: group.height
+            radius: 13
+            color: "#F2F2F2"
+            Column {
+                id: group
+                width: parent.width
+                Text {
+                    width: parent.width
+                    height: 44
+                    text: root.model ? root.model.title : ""
+                    color: Theme.secondaryText
+                    font.family: Theme.fontFamily; font.pixelSize: 13
+                    horizontalAlignment: Text.AlignHCenter; verticalAlignment: Text.AlignVCenter
+                    Accessible.role: Accessible.StaticText; Accessible.name: text
+                }
+                Repeater {
+                    model: root.model ? root.model.otherButtonTitles : []
+                    Column {
+                        required property string modelData
+                        required property int index
+                        width: group.width
+                        Rectangle { width: parent.width; height: 1; color: "#D0D0D0" }
+                        KitButton {
+                            width: parent.width
+                            height: 56
+                            model: Button { title: modelData; titleColor: Theme.tint }
+                            font.pixelSize: 20
+                            onTouchUpInside: root.model.clickButtonAtIndex(index)
+                        }
+                    }
+                }
+            }
+        }
+        Rectangle {
+            width: parent.width
+            height: 56
+            radius: 13
+            color: "white"
+            KitButton {
+                anchors.fill: parent
+                model: Button { title: root.model ? root.model.cancelButtonTitle : ""; titleColor: Theme.tint }
+                font.pixelSize: 20
+                font.weight: Font.DemiBold
+                onTouchUpInside: root.model.clickButtonAtIndex(root.model.otherButtonTitles.length)
+            }
+        }
+    }
+}

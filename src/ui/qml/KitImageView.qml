@@ -1,0 +1,11 @@
+import QtQuick
+import CalorieKit
+
+Image {
+    id: root
+    property ImageView model: ImageView {}
+    visible: !model.hidden
+    source: Theme.imageUrl(model.imageName)
+    fillMode: Image.PreserveAspectFit
+    FrameBinding { item: root; model: root.model }
+}

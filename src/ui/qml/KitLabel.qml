@@ -1,0 +1,22 @@
+import QtQuick
+import CalorieKit
+
+// Renders a Label. A font named "...-Thin" that this machine lacks falls back to a thin sans face.
+Text {
+    id: root
+    property Label model: Label {}
+
+    visible: !model.hidden
+    text: model.text
+    color: model.textColor
+    wrapMode: Text.WordWrap
+    horizontalAlignment: [Text.AlignLeft, Text.AlignHCenter, Text.AlignRight, Text.AlignJustify][model.textAlignment] ?? Text.AlignLeft
+    font.family: model.fontName && Qt.fontFamilies().indexOf(model.fontName) >= 0 ? model.fontName : Theme.fontFamily
+    font.weight: model.fontName.endsWith("-Thin") ? Font.Thin : Font.Normal
+    font.pixelSize: model.fontSize > 0 ? model.fontSize : 17
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
+    FrameBinding { item: root; model: root.model }
+}

@@ -1,0 +1,109 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import CalorieKit
+
+// Renders a NavigationController: the bar of the top screen and the stack of screen layouts.
+Item {
+    id: root
+    property NavigationController nav
+    readonly property ViewController topScreen: nav ? nav.topViewController : null
+    readonly property NavigationItem navItem: topScreen ? topScreen.navigationItem : null
+
+    Rectangle {
+        id: bar
+        z: 1
+        width: parent.width
+        height: Theme.navigationBarHeight
+        visible: root.nav && !root.nav.navigationBarHidden
+        color: Theme.barBackground
+        Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: Theme.barLine }
+
+        Text {
+            anchors.centerIn: parent
+            width: parent.width - 2 * Math.max(left.width, right.width) - 16
+            text: root.topScreen ? root.topScreen.title : ""
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignHCenter
+            font.family: Theme.fontFamily
+            font.pixelSize: 17
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+        Item {
+            id: left
+            x: 4
+            height: parent.height
+            width: childrenRect.width
+            KitButton {
+                y: (parent.height - height) / 2
+                visible: !!model
+                model: root.navItem && root.navItem.leftBarButtonItem ? root.navItem.leftBarButtonItem.customView : null
+                width: model && model.frame.width > 0 ? model.frame.width : implicitWidth
+            }
+            KitButton {
+                // The standard back control, unless a left item takes its place.
+                y: (parent.height - height) / 2
+                visible: root.nav && root.nav.viewControllers.length > 1 && root.navItem
+                         && !root.navItem.leftBarButtonItem && !root.navItem.hidesBackButton
+                model: Button { title: "‹ Back"; titleColor: Theme.tint }
+                onTouchUpInside: root.nav.popViewController(true)
+            }
+        }
+        Item {
+            id: right
+            anchors.right: parent.right
+            anchors.rightMargin: 4
+            height: parent.height
+            width: childrenRect.width
+            KitButton {
+                y: (parent.height - height) / 2
+                visible: !!model
+                model: root.navItem && root.navItem.rightBarButtonItem ? root.navItem.rightBarButtonItem.customView : null
+                width: model && model.frame.width > 0 ? model.frame.width : implicitWidth
+            }
+        }
+    }
+
+    StackView {
+        id: stack
+        anchors.fill: parent
+        anchors.topMargin: bar.visible ? bar.height : 0
+        clip: true
+    }
+
+    Component {
+        id: host
+        Item {
+            id: page
+            property ViewController screen
+            Loader {
+                anchors.fill: parent
+                Component.onCompleted: setSource("qrc:/layouts/" + (page.screen.layoutName || "Empty") + ".qml",
+                                                 { screen: page.screen })
+            }
+            StackView.onRemoved: root.nav.finishedRemoving(page.screen)
+        }
+    }
+
+    Connections {
+        target: root.nav
+        function onPushed(controller, animated) {
+            stack.push(host, { screen: controller }, animated ? StackView.PushTransition : StackView.Immediate)
+        }
+        function onPopped(count, animated) {
+            stack.pop(stack.get(stack.depth - 1 - count), animated ? StackView.PopTransition : StackView.Immediate)
+        }
+    }
+
+    // The stack as it is when this view starts rendering a controller; later changes animate.
+    function rebuild() {
+        stack.clear(StackView.Immediate)
+        if (!nav) return
+        nav.rendered = true
+        for (const controller of nav.viewControllers)
+            stack.push(host, { screen: controller }, StackView.Immediate)
+    }
+    onNavChanged: rebuild()
+    Component.onCompleted: rebuild()
+}
