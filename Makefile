@@ -12,7 +12,7 @@ run: deps
 bench: deps
 	cmake --preset release
 	cmake --build --preset release
-	cd build/release/bench && ./calorie-bench
+	cd build/release/bin && ./calorie-bench
 
 deps:
 	@scripts/install-deps

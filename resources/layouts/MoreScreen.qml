@@ -16,15 +16,15 @@ KitScreen {
         }
         KitLabel {
             id: about
-            x: 16; y: 56; width: 288
+            x: 16; y: 54; width: 288
             model: layout.screen.lb1
-            font.pixelSize: 14
+            font.pixelSize: 13
             lineHeight: 1.15
         }
         KitLabel {
             x: 16; y: about.y + about.height + 20; width: 288
             model: layout.screen.lb2
-            font.pixelSize: 13
+            font.pixelSize: 12
             color: "#555555"
             lineHeight: 1.15
         }

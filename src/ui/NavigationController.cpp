@@ -23,18 +23,16 @@ void NavigationController::pushViewController(ViewController* controller, bool a
     ViewController* previous = topViewController();
     controller->setParent(this);
     controller->navigationController_ = this;
-    controller->loadViewIfNeeded();
-    if (visible_) {
-        previous->beginAppearance(false, animated);
-        controller->beginAppearance(true, animated);
-    }
+    // On the stack and rendered (its layout loaded) before viewDidLoad, which may push in turn.
     stack_.append(controller);
     emit stackChanged();
     emit pushed(controller, animated);
-    if (visible_) {
-        previous->endAppearance(false, animated);
-        controller->endAppearance(true, animated);
-    }
+    controller->loadViewIfNeeded();
+    if (!visible_ || topViewController() != controller) return;
+    previous->beginAppearance(false, animated);
+    controller->beginAppearance(true, animated);
+    previous->endAppearance(false, animated);
+    controller->endAppearance(true, animated);
 }
 
 void NavigationController::popViewController(bool animated) { popTo(stack_.size() - 1, animated); }

@@ -1,0 +1,120 @@
+#include "support/AppHarness.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSettings>
+#include <QTest>
+#include <filesystem>
+
+#include "store/AppState.h"
+
+namespace {
+
+// Depth-first over the accessibility tree, the way assistive technology sees the window.
+QQuickItem* findAccessible(QAccessibleInterface* node, const QString& name, int& skip) {
+    if (!node) return nullptr;
+    if (node->text(QAccessible::Name) == name && !node->state().invisible) {
+        if (auto* item = qobject_cast<QQuickItem*>(node->object()); item && item->isVisible()) {
+            if (skip-- == 0) return item;
+        }
+    }
+    for (int i = 0; i < node->childCount(); ++i) {
+        if (QQuickItem* found = findAccessible(node->child(i), name, skip)) return found;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+AppHarness::AppHarness(HarnessOptions options) : options_(options) {
+    AppState::shared() = AppState{};
+    if (options_.firstTime) {
+        QSettings defaults(defaultsFile(), QSettings::IniFormat);
+        defaults.setValue("firstTime", *options_.firstTime);
+    }
+}
+
+AppHarness::~AppHarness() {
+    delegate_.reset();
+    AppState::shared() = AppState{};
+}
+
+std::string AppHarness::prepareDatabase() {
+    const std::string path = databasePath();
+    std::filesystem::copy_file(FOOD_DB_PATH, path, std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::permissions(path, std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add);
+    return path;
+}
+
+void AppHarness::launch() {
+    delegate_.reset();
+    AppState::shared() = AppState{};
+    LaunchOptions launch;
+    launch.pad = options_.pad;
+    launch.screen = options_.screen.isEmpty() ? (options_.pad ? QSize(768, 1024) : QSize(320, 568))
+                                              : options_.screen;
+    launch.dataDir = dataDir();
+    launch.launchHoldMs = options_.launchHoldMs;
+    delegate_ = std::make_unique<AppDelegate>(launch);
+    delegate_->didFinishLaunchingWithOptions();
+    settle();
+}
+
+void AppHarness::settle(int ms) { QTest::qWait(ms); }
+
+QQuickItem* AppHarness::findByName(const QString& name, int occurrence) {
+    int skip = occurrence;
+    return findAccessible(QAccessible::queryAccessibleInterface(quickWindow()), name, skip);
+}
+
+bool AppHarness::click(const QString& name, int occurrence) {
+    QQuickItem* item = findByName(name, occurrence);
+    if (!item) return false;
+    clickAt(item->mapToScene(QPointF(item->width() / 2, item->height() / 2)));
+    return true;
+}
+
+void AppHarness::clickAt(QPointF point) {
+    QTest::mouseClick(quickWindow(), Qt::LeftButton, Qt::NoModifier, point.toPoint());
+    settle();
+}
+
+bool AppHarness::press(const QString& name) {
+    QQuickItem* item = findByName(name);
+    if (!item) return false;
+    QAccessibleInterface* node = QAccessible::queryAccessibleInterface(item);
+    if (!node || !node->actionInterface()) return false;
+    node->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    settle();
+    return true;
+}
+
+void AppHarness::type(const QString& text) {
+    for (const QChar c : text) QTest::keyClick(quickWindow(), c.toLatin1());
+    settle(50);
+}
+
+void AppHarness::drag(QPointF from, qreal dy) {
+    QQuickWindow* window = quickWindow();
+    const QPoint start = from.toPoint();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+    const int steps = 12;
+    for (int i = 1; i <= steps; ++i) {
+        QTest::mouseMove(window, start + QPoint(0, int(dy * i / steps)), 16);
+    }
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(0, int(dy)), 16);
+    settle(900);
+}
+
+QImage AppHarness::grab() { return quickWindow()->grabWindow(); }
+
+QString AppHarness::saveScreenshot(const QString& name) {
+    const QString folder = QDir::currentPath() + "/screenshots";
+    QDir().mkpath(folder);
+    const QString path = folder + "/" + name + ".png";
+    grab().save(path);
+    return path;
+}

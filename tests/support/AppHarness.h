@@ -1,0 +1,66 @@
+#pragma once
+// The real application in a throwaway data folder: the launch sequence, the window rendered
+// offscreen, and the ways a person (or a screen reader) reaches it: by accessible name, by
+// clicks and keys on the real items, and by looking (screenshots).
+
+#include <QImage>
+#include <QPointF>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "app/AppDelegate.h"
+#include "support/Fixtures.h"
+
+class QQuickItem;
+
+struct HarnessOptions {
+    bool pad = false;
+    std::optional<QString> firstTime;  // the defaults' "firstTime" before launch; absent if empty
+    QSize screen;                      // empty: the idiom's size
+    int launchHoldMs = 0;
+};
+
+class AppHarness {
+public:
+    explicit AppHarness(HarnessOptions options = {});
+    ~AppHarness();
+
+    // Copies the shipped food.db into the data folder first, so a test can change it (startDate,
+    // budget, day rows) before the launch; launch() then finds it in place.
+    std::string prepareDatabase();
+    // Starts the app afresh (a new process, as far as the shared state is concerned); may be
+    // called again on the same data folder.
+    void launch();
+
+    AppDelegate& delegate() { return *delegate_; }
+    Window* window() { return delegate_->window(); }
+    QQuickWindow* quickWindow() { return delegate_->quickWindow(); }
+    QString dataDir() const { return QString::fromStdString(dir_.path().string()); }
+    std::string databasePath() const { return dir_.file("food.db"); }
+    QString defaultsFile() const { return dataDir() + "/defaults.ini"; }
+
+    // Lets animations and deferred work run.
+    void settle(int ms = 450);
+
+    // The item whose accessible name is name (the first in tree order that is visible), or null.
+    QQuickItem* findByName(const QString& name, int occurrence = 0);
+    // Clicks the centre of the named item with a real mouse press and release; false if absent.
+    bool click(const QString& name, int occurrence = 0);
+    void clickAt(QPointF windowPoint);
+    // Presses the named control through its accessibility action, as a screen reader does.
+    bool press(const QString& name);
+    // Types text into the focused item with real key events.
+    void type(const QString& text);
+    // Drags vertically from a window point by dy (a wheel turn).
+    void drag(QPointF from, qreal dy);
+
+    QImage grab();
+    // Saves under the build folder's screenshots/; returns the path.
+    QString saveScreenshot(const QString& name);
+
+private:
+    HarnessOptions options_;
+    TempDir dir_;
+    std::unique_ptr<AppDelegate> delegate_;
+};
