@@ -18,13 +18,13 @@ KitScreen {
             id: about
             x: 64; y: 84; width: 640
             model: layout.screen.lb1
-            font.pixelSize: 19
+            font.pixelSize: 18
             lineHeight: 1.15
         }
         KitLabel {
             x: 64; y: about.y + about.height + 28; width: 640
             model: layout.screen.lb2
-            font.pixelSize: 17
+            font.pixelSize: 16
             color: "#555555"
             lineHeight: 1.15
         }
