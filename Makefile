@@ -1,4 +1,5 @@
 # The two commands people need: `make run` and `make test`. Everything installs what it needs.
+# `make run ARGS="--idiom pad"` passes options to the app.
 .PHONY: test run bench deps food-db format clean
 
 test: deps
@@ -7,7 +8,9 @@ test: deps
 	ctest --preset debug-asan
 
 run: deps
-	@echo "The app is not built yet: the window and its screens come with the app shell."
+	cmake --preset release
+	cmake --build --preset release --target calorie-counter
+	scripts/run $(ARGS)
 
 bench: deps
 	cmake --preset release

@@ -1,6 +1,7 @@
 #pragma once
 // Machines here are noisy, so every figure is a ratio against a floor measured in the same run:
-// each measured benchmark names its floor, and the reporter prints median(measured) / median(floor).
+// each measured benchmark names its floor, and the reporter prints median(measured) /
+// median(floor). Absolute limits (start-up time, memory) are printed beside them.
 
 #include <benchmark/benchmark.h>
 
@@ -11,18 +12,30 @@
 struct Comparison {
     std::string measured;  // benchmark name, e.g. "BM_StoreInserts"
     std::string floor;     // e.g. "BM_BareSqliteInserts"
-    double target;         // the largest acceptable ratio
+    double target;         // the largest acceptable ratio; 0: printed for information only
 };
 
-// Registers a comparison for the final report.
+struct Limit {
+    std::string benchmark;
+    std::string counter;  // a user counter of the benchmark, or "" for its real time
+    double most;          // in the counter's unit, or milliseconds for the real time
+    std::string unit;
+};
+
+// Register what the final report prints.
 void compare(Comparison comparison);
+void limit(Limit limit);
 
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;
-    // Prints one line per comparison; returns false when a target is missed.
+    // Prints one line per comparison and limit; returns false when a target is missed.
     bool printRatios() const;
 
 private:
-    std::map<std::string, double> medians_;  // real time, by base benchmark name
+    struct Median {
+        double realMs = 0;
+        std::map<std::string, double> counters;
+    };
+    std::map<std::string, Median> medians_;  // by base benchmark name
 };
