@@ -13,6 +13,9 @@
 #include "ui/TextField.h"
 #include "ui/ViewController.h"
 #include "ui/Window.h"
+#include "ui/PickerView.h"
+#include "ui/DatePicker.h"
+#include "ui/ShapeLayer.h"
 
 void registerKitTypes() {
     constexpr const char* uri = "CalorieKit";
@@ -34,4 +37,7 @@ void registerKitTypes() {
     qmlRegisterUncreatableType<Window>(uri, 1, 0, "WindowModel", fromCode);
     qmlRegisterUncreatableType<AlertView>(uri, 1, 0, "AlertView", fromCode);
     qmlRegisterUncreatableType<ActionSheet>(uri, 1, 0, "ActionSheet", fromCode);
+    qmlRegisterType<PickerView>(uri, 1, 0, "PickerView");
+    qmlRegisterType<DatePicker>(uri, 1, 0, "DatePicker");
+    qmlRegisterType<ShapeLayer>(uri, 1, 0, "ShapeLayer");
 }

@@ -30,9 +30,12 @@ public:
     ViewController* topViewController() const { return stack_.isEmpty() ? nullptr : stack_.last(); }
     // A navigation controller in a tab bar presents its root screen's tab bar item.
     TabBarItem* tabBarItem() const { return stack_.first()->tabBarItem(); }
+    // Its own item, as a controller that could itself be pushed has one. The bar shows the top
+    // screen's item, never this one.
+    NavigationItem* navigationItem() { return &navigationItem_; }
 
     void pushViewController(ViewController* controller, bool animated);
-    void popViewController(bool animated);
+    Q_INVOKABLE void popViewController(bool animated);
     void popToRootViewController(bool animated);
 
     TabBarController* tabBarController() const { return tabBarController_; }
@@ -57,4 +60,5 @@ private:
     QList<ViewController*> stack_;
     TabBarController* tabBarController_ = nullptr;
     bool visible_ = false;
+    NavigationItem navigationItem_;
 };

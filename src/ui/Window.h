@@ -17,6 +17,8 @@ class Window : public QObject {
     Q_PROPERTY(QList<QObject*> presented READ presented NOTIFY presentedChanged)
     // Tiled behind everything: "bg" on a phone, "bgiPad" on a pad.
     KIT_PROPERTY(QString, backgroundPatternImage, setBackgroundPatternImage);
+    // Drawn over everything, presented modals included: the status overlay (not owned).
+    KIT_PROPERTY(QObject*, overlay, setOverlay);
 
 public:
     explicit Window(QObject* parent = nullptr) : QObject(parent) {}

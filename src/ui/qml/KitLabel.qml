@@ -10,6 +10,7 @@ Text {
     text: model.text
     color: model.textColor
     wrapMode: Text.WordWrap
+    verticalAlignment: Text.AlignVCenter  // a label centres its text in its frame
     horizontalAlignment: [Text.AlignLeft, Text.AlignHCenter, Text.AlignRight, Text.AlignJustify][model.textAlignment] ?? Text.AlignLeft
     font.family: model.fontName && Qt.fontFamilies().indexOf(model.fontName) >= 0 ? model.fontName : Theme.fontFamily
     font.weight: model.fontName.endsWith("-Thin") ? Font.Thin : Font.Normal

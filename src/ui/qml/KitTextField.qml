@@ -1,9 +1,10 @@
 import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Controls.Basic as Controls
 import CalorieKit
 
-// Renders a TextField; its text flows back into the model on every edit.
-TextField {
+// Renders a TextField; its text flows back into the model on every edit. The control is named
+// by its module: CalorieKit's TextField is the model type.
+Controls.TextField {
     id: root
     property var model: null
     visible: !model.hidden

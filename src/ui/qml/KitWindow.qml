@@ -35,6 +35,11 @@ Window {
             onLoaded: item.model = modelData
         }
     }
+    KitStatusOverlay {
+        anchors.fill: parent
+        z: 50
+        model: window.model ? window.model.overlay : null
+    }
     Image {
         anchors.fill: parent
         z: 100

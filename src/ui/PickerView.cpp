@@ -1,0 +1,38 @@
+#include "ui/PickerView.h"
+
+#include <algorithm>
+
+void PickerView::reloadAllComponents() {
+    rowCounts_.clear();
+    const int64_t components = dataSource_ ? dataSource_->numberOfComponentsInPickerView() : 0;
+    for (int64_t c = 0; c < components; ++c) {
+        const int64_t rows = dataSource_->pickerViewNumberOfRowsInComponent(c);
+        rowCounts_.append(int(std::max<int64_t>(rows, 0)));
+    }
+    selected_.resize(rowCounts_.size());
+    for (qsizetype c = 0; c < selected_.size(); ++c)
+        selected_[c] = std::clamp(selected_[c], 0, std::max(rowCounts_[c] - 1, 0));
+    emit componentsReloaded();
+}
+
+void PickerView::selectRow(int64_t row, int64_t component, bool animated) {
+    if (component < 0 || component >= selected_.size() || rowCounts_[component] == 0) return;
+    const int clamped = int(std::clamp<int64_t>(row, 0, rowCounts_[component] - 1));
+    selected_[component] = clamped;
+    emit rowSelected(clamped, int(component), animated);
+}
+
+int PickerView::selectedRowInComponent(int component) const {
+    return component >= 0 && component < selected_.size() ? selected_[component] : -1;
+}
+
+QString PickerView::titleForRow(int row, int component) {
+    return delegate_ ? delegate_->pickerViewTitleForRowForComponent(row, component) : QString();
+}
+
+void PickerView::userSelectedRow(int row, int component) {
+    if (component < 0 || component >= selected_.size()) return;
+    if (row < 0 || row >= rowCounts_[component]) return;
+    selected_[component] = row;
+    if (delegate_) delegate_->pickerViewDidSelectRowInComponent(row, component);
+}

@@ -1,0 +1,67 @@
+#pragma once
+// A picker of wheels ("components"), each a column of rows. What it shows is asked of its data
+// source (how many wheels and rows) and its delegate (each row's title, as the wheel draws it);
+// the delegate also hears of the row a wheel comes to rest on after the user turned it. A row
+// selected by code is not reported.
+
+#include <QList>
+#include <QString>
+#include <cstdint>
+
+#include "ui/View.h"
+
+class PickerViewDataSource {
+public:
+    virtual int64_t numberOfComponentsInPickerView() = 0;
+    virtual int64_t pickerViewNumberOfRowsInComponent(int64_t component) = 0;
+
+protected:
+    ~PickerViewDataSource() = default;
+};
+
+class PickerViewDelegate {
+public:
+    virtual QString pickerViewTitleForRowForComponent(int64_t row, int64_t component) = 0;
+    virtual void pickerViewDidSelectRowInComponent(int64_t row, int64_t component) = 0;
+
+protected:
+    ~PickerViewDelegate() = default;
+};
+
+class PickerView : public View {
+    Q_OBJECT
+    // Rows per wheel as last asked of the data source; the renderer builds its wheels from these.
+    Q_PROPERTY(QList<int> rowCounts READ rowCounts NOTIFY componentsReloaded)
+
+public:
+    explicit PickerView(QObject* parent = nullptr) : View(parent) {}
+
+    // Neither is owned; the screen that owns the picker is usually both.
+    void setDataSource(PickerViewDataSource* dataSource) { dataSource_ = dataSource; }
+    void setDelegate(PickerViewDelegate* delegate) { delegate_ = delegate; }
+
+    // Asks the data source again; selections stay where the new rows allow.
+    void reloadAllComponents();
+    QList<int> rowCounts() const { return rowCounts_; }
+
+    // Turns a wheel from code, without telling the delegate.
+    void selectRow(int64_t row, int64_t component, bool animated);
+    // -1 for a component the picker does not have.
+    Q_INVOKABLE int selectedRowInComponent(int component) const;
+
+    // For the renderer: a row's title, asked of the delegate when the wheel draws it.
+    Q_INVOKABLE QString titleForRow(int row, int component);
+    // For the renderer: the user turned a wheel and it came to rest on row.
+    Q_INVOKABLE void userSelectedRow(int row, int component);
+
+signals:
+    void componentsReloaded();
+    // For the renderer: code turned a wheel.
+    void rowSelected(int row, int component, bool animated);
+
+private:
+    PickerViewDataSource* dataSource_ = nullptr;
+    PickerViewDelegate* delegate_ = nullptr;
+    QList<int> rowCounts_;
+    QList<int> selected_;
+};

@@ -1,0 +1,43 @@
+import QtQuick
+import CalorieKit
+
+// Renders a PickerView: one wheel per component, side by side and equally wide. Titles are asked
+// of the picker as the wheels draw their rows; a reload builds the wheels anew.
+Item {
+    id: root
+    property PickerView model: PickerView {}
+    property font font: Qt.font({ family: Theme.fontFamily, pixelSize: 21 })
+
+    implicitWidth: 320
+    implicitHeight: 216
+    visible: !model.hidden
+
+    Row {
+        anchors.fill: parent
+        Repeater {
+            id: wheels
+            model: root.model.rowCounts
+            KitWheel {
+                required property int modelData
+                required property int index
+                width: root.width / wheels.count
+                height: root.height
+                font: root.font
+                model: modelData
+                titleAt: row => root.model.titleForRow(row, index)
+                onSettled: row => root.model.userSelectedRow(row, index)
+                Component.onCompleted: select(root.model.selectedRowInComponent(index))
+            }
+        }
+    }
+
+    Connections {
+        target: root.model
+        function onRowSelected(row, component, animated) {
+            const wheel = wheels.itemAt(component)
+            if (wheel) wheel.select(row)
+        }
+    }
+
+    FrameBinding { item: root; model: root.model }
+}
