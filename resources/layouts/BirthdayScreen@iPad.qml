@@ -1,0 +1,3 @@
+import QtQuick
+
+BirthdayScreen { pad: true }

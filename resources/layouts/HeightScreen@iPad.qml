@@ -1,0 +1,3 @@
+import QtQuick
+
+HeightScreen { pad: true }

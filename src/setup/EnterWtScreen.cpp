@@ -1,0 +1,16 @@
+#include "setup/EnterWtScreen.h"
+
+#include "setup/GoalWeightScreen.h"
+
+EnterWtScreen::EnterWtScreen(const QString& layoutName, QObject* parent)
+    : WeightScreen(layoutName, parent) {
+    setTitle("Starting Weight");
+}
+
+void EnterWtScreen::nextButton() {
+    if (hasWeight()) {
+        pushStep<GoalWeightScreen>();
+    } else {
+        showAlert("Enter Today's Weight");
+    }
+}

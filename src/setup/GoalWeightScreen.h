@@ -1,0 +1,15 @@
+#pragma once
+// Set-up step 3: the goal weight, the weight the daily budget is worked out for.
+
+#include "setup/WeightScreen.h"
+
+class GoalWeightScreen : public WeightScreen {
+    Q_OBJECT
+    Q_PROPERTY(TextField* enterGWtTxt READ enterGWtTxt CONSTANT)
+
+public:
+    explicit GoalWeightScreen(const QString& layoutName, QObject* parent = nullptr);
+
+    TextField* enterGWtTxt() { return field(); }
+    void nextButton() override;
+};
