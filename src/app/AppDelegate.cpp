@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "app/TabBar.h"
+#include "overlay/StatusOverlay.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
 #include "store/DevLog.h"
@@ -36,6 +37,8 @@ AppDelegate::AppDelegate(const LaunchOptions& options, QObject* parent)
         if (s == Qt::ApplicationSuspended) applicationDidEnterBackground();
     });
     connect(qGuiApp, &QCoreApplication::aboutToQuit, this, [this] { applicationWillTerminate(); });
+    store_.setBeforeDailyUpdate([] { StatusOverlay::show(); });
+    window_.setOverlay(&StatusOverlay::shared());
 }
 
 AppDelegate::~AppDelegate() {

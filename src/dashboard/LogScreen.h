@@ -1,11 +1,31 @@
 #pragma once
-// The fourth tab: steps through the days of the plan.
+// The fourth tab: steps through the days of the plan, from its first day up to today. The day
+// it shows is dayIndex, the day that entries are booked on.
 
-#include "ui/ViewController.h"
+#include "dashboard/DashboardScreen.h"
+#include "ui/Button.h"
 
-class LogScreen : public ViewController {
+class LogScreen : public DashboardScreen {
     Q_OBJECT
 
 public:
     explicit LogScreen(const QString& layoutName, QObject* parent = nullptr);
+
+    // Calories per point, kept from the last appearance for the redraws of stepping.
+    float f() const { return f_; }
+
+public slots:
+    void finalResult();
+    void nextBtn(Button* sender = nullptr);
+    void backBtn(Button* sender = nullptr);
+
+protected:
+    void viewDidLoad() override;
+    void viewWillAppear(bool animated) override;
+    View* canvas() override { return view(); }
+
+private:
+    void loadDay();
+
+    float f_ = 0;
 };

@@ -19,12 +19,6 @@ ViewController* firstScreen(AppHarness& app) {
     return app.window()->rootViewController()->viewControllers().first();
 }
 
-void startPlan(const std::string& db, Instant start, const char* budget = "1850") {
-    execSql(db, ("UPDATE profileData SET calorieBudget = '" + std::string(budget) +
-                 "', startingDate = '" + standardDescription(start) + "' WHERE id = 2")
-                    .c_str());
-}
-
 }  // namespace
 
 TEST(Launch, RoutesOnFirstTimeBeingExactlyNo) {
@@ -64,7 +58,7 @@ TEST(Launch, HoldsTheLaunchImage) {
 
 TEST(TabInterface, ReadsThePlanAndSetsTheDayIndexes) {
     AppHarness app({.firstTime = QString("no")});
-    startPlan(app.prepareDatabase(), Clock::now() - 36h, "1850.5");
+    writePlan(app.prepareDatabase(), Clock::now() - 36h, "1850.5", 2);
     app.launch();
     const AppState& state = AppState::shared();
     EXPECT_EQ(state.calorieBudgetValue, 1850);
@@ -72,7 +66,7 @@ TEST(TabInterface, ReadsThePlanAndSetsTheDayIndexes) {
     EXPECT_EQ(state.dayIndex, 1);
     EXPECT_EQ(state.foodNames.size(), 8816u);
     EXPECT_EQ(state.foodNames.size(), state.foodCalories.size());
-    EXPECT_TRUE(state.dailyRows.empty());  // the wizard has not added the plan's days
+    EXPECT_EQ(state.dailyRows.size(), 2u);  // the placeholder row is passed over
 }
 
 TEST(TabInterface, FiveTabsWithTitlesImagesAndIdiomLayouts) {

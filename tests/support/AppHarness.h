@@ -27,7 +27,8 @@ public:
     ~AppHarness();
 
     // Copies the shipped food.db into the data folder first, so a test can change it (startDate,
-    // budget, day rows) before the launch; launch() then finds it in place.
+    // budget, day rows) before the launch; launch() then finds it in place. Without one, a
+    // launch with firstTime "no" writes a plan starting now (budget 1850, 366 days).
     std::string prepareDatabase();
     // Starts the app afresh (a new process, as far as the shared state is concerned); may be
     // called again on the same data folder.

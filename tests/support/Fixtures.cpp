@@ -88,3 +88,15 @@ std::vector<std::string> queryColumn(const std::string& path, const char* sql) {
     sqlite3_close(db);
     return out;
 }
+
+void writePlan(const std::string& path, Instant start, const char* budget, int days) {
+    std::string sql = "UPDATE profileData SET calorieBudget = '" + std::string(budget) +
+                      "', startingDate = '" + standardDescription(start) + "' WHERE id = 2;";
+    const DateFormatter label("EEEE MMMM d");
+    for (int day = 0; day < days; ++day) {
+        sql += "INSERT INTO dailyData (date, id, calorieConsumed, calorieBurned) VALUES ('" +
+               label.format(start + std::chrono::hours(24 * day)) + "', " + std::to_string(day) +
+               ", 0, 0);";
+    }
+    execSql(path, sql.c_str());
+}

@@ -69,3 +69,7 @@ Instant utc(const char* text);
 void execSql(const std::string& path, const char* sql);
 // The first column of every row of a query, as text.
 std::vector<std::string> queryColumn(const std::string& path, const char* sql);
+
+// A plan as set-up leaves it in a copy of the shipped food.db: the budget and starting date in
+// the profile row, and day rows 0 to days - 1 labelled "EEEE MMMM d", nothing booked.
+void writePlan(const std::string& path, Instant start, const char* budget, int days);
