@@ -1,143 +1,68 @@
-// Integrity of the shipped food catalogue. The app reads every table with
-// `select *` and takes columns by position, so layout and placeholder rows
-// matter as much as the data itself.
+// The shipped food.db. The app reads every table with `select *` and takes columns by position,
+// so the layout and the placeholder rows matter as much as the foods.
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
-#include <vector>
+
+#include "store/AppState.h"
+#include "store/CalorieStore.h"
+#include "support/Fixtures.h"
 
 namespace {
 
-using Rows = std::vector<std::vector<std::string>>;
+using Column = std::vector<std::string>;
+Column query(const char* sql) { return queryColumn(FOOD_DB_PATH, sql); }
 
-class Db {
-public:
-    Db(const std::string& path, int flags) {
-        if (sqlite3_open_v2(path.c_str(), &db_, flags, nullptr) != SQLITE_OK)
-            ADD_FAILURE() << "cannot open " << path << ": " << sqlite3_errmsg(db_);
-    }
-    ~Db() { sqlite3_close(db_); }
-    Db(const Db&) = delete;
-    Db& operator=(const Db&) = delete;
-
-    sqlite3* handle() const { return db_; }
-
-    // Every value as text, NULL as "<null>", so rows compare with ==.
-    Rows query(const std::string& sql) const {
-        Rows rows;
-        sqlite3_stmt* stmt = nullptr;
-        if (sqlite3_prepare_v2(db_, sql.c_str(), -1, &stmt, nullptr) != SQLITE_OK) {
-            ADD_FAILURE() << sql << ": " << sqlite3_errmsg(db_);
-            return rows;
-        }
-        while (sqlite3_step(stmt) == SQLITE_ROW) {
-            auto& row = rows.emplace_back();
-            for (int i = 0; i < sqlite3_column_count(stmt); ++i) {
-                auto* text = sqlite3_column_text(stmt, i);
-                row.emplace_back(text ? reinterpret_cast<const char*>(text) : "<null>");
-            }
-        }
-        sqlite3_finalize(stmt);
-        return rows;
-    }
-    std::string scalar(const std::string& sql) const {
-        Rows rows = query(sql);
-        return rows.empty() || rows[0].empty() ? "<none>" : rows[0][0];
-    }
-    void exec(const std::string& sql) const {
-        char* error = nullptr;
-        if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &error) != SQLITE_OK)
-            ADD_FAILURE() << sql << ": " << (error ? error : "?");
-        sqlite3_free(error);
-    }
-
-private:
-    sqlite3* db_ = nullptr;
-};
-
-class FoodCatalogue : public ::testing::Test {
-protected:
-    Db db{FOOD_DB_PATH, SQLITE_OPEN_READONLY};
-};
-
-TEST_F(FoodCatalogue, HasExactlyTheThreeTablesWithColumnsInReadingOrder) {
-    EXPECT_EQ(db.query("SELECT type, name FROM sqlite_master ORDER BY name"),
-              (Rows{{"table", "dailyData"}, {"table", "food"}, {"table", "profileData"}}));
-    const char* columns = "SELECT name, type, pk FROM pragma_table_info('";
-    EXPECT_EQ(db.query(std::string(columns) + "profileData')"),
-              (Rows{{"id", "INTEGER", "0"}, {"calorieBudget", "TEXT", "0"},
-                    {"startingDate", "TEXT", "0"}}));
-    EXPECT_EQ(db.query(std::string(columns) + "food')"),
-              (Rows{{"id", "INTEGER", "1"}, {"calories", "INTEGER", "0"},
-                    {"unit", "TEXT", "0"}, {"name", "TEXT", "0"}}));
-    EXPECT_EQ(db.query(std::string(columns) + "dailyData')"),
-              (Rows{{"id", "INTEGER", "0"}, {"date", "TEXT", "0"},
-                    {"calorieConsumed", "INTEGER", "0"}, {"calorieBurned", "INTEGER", "0"}}));
+TEST(FoodCatalogue, TablesColumnsAndPlaceholderRows) {
+    EXPECT_EQ(query("SELECT name FROM sqlite_master ORDER BY name"),
+              (Column{"dailyData", "food", "profileData"}));
+    const auto columns = [](const char* table) {
+        return query((std::string("SELECT name || ' ' || type || ' ' || pk FROM pragma_table_info('") +
+                      table + "')").c_str());
+    };
+    EXPECT_EQ(columns("profileData"),
+              (Column{"id INTEGER 0", "calorieBudget TEXT 0", "startingDate TEXT 0"}));
+    EXPECT_EQ(columns("food"),
+              (Column{"id INTEGER 1", "calories INTEGER 0", "unit TEXT 0", "name TEXT 0"}));
+    EXPECT_EQ(columns("dailyData"), (Column{"id INTEGER 0", "date TEXT 0",
+                                            "calorieConsumed INTEGER 0", "calorieBurned INTEGER 0"}));
+    // The first row of each table is passed over when read; the live profile row is id 2.
+    EXPECT_EQ(query("SELECT id || '|' || calorieBudget || '|' || startingDate FROM profileData"),
+              (Column{"1|0|", "2|0|"}));
+    EXPECT_EQ(query("SELECT id || '|' || calories || '|' || unit || '|' || name FROM food LIMIT 1"),
+              Column{"0|0||"});
+    EXPECT_EQ(query("SELECT id || '|' || date FROM dailyData"), Column{"-1|"});
 }
 
-TEST_F(FoodCatalogue, PlaceholderRowsComeFirst) {
-    EXPECT_EQ(db.query("SELECT * FROM profileData"), (Rows{{"1", "0", ""}, {"2", "0", ""}}));
-    EXPECT_EQ(db.scalar("SELECT typeof(calorieBudget) FROM profileData WHERE id = 2"), "text");
-    EXPECT_EQ(db.query("SELECT * FROM food LIMIT 1"), (Rows{{"0", "0", "", ""}}));
-    EXPECT_EQ(db.query("SELECT * FROM dailyData"), (Rows{{"-1", "", "0", "0"}}));
-}
-
-TEST_F(FoodCatalogue, EveryFoodIsUsableUniqueAndAlphabetical) {
-    const int foods = std::stoi(db.scalar("SELECT count(*) FROM food WHERE id > 0"));
+TEST(FoodCatalogue, EveryFoodIsUsableUniqueAndAlphabetical) {
+    const int foods = std::stoi(query("SELECT count(*) FROM food WHERE id > 0")[0]);
     EXPECT_GE(foods, 8000);
     EXPECT_LE(foods, 9500);
-    EXPECT_EQ(db.scalar("SELECT max(id) FROM food"), std::to_string(foods)) << "ids have gaps";
-    EXPECT_EQ(db.scalar("SELECT count(*) FROM food WHERE id > 0 AND (typeof(calories) != "
-                        "'integer' OR calories <= 0 OR unit = '' OR name = '')"),
-              "0");
-    EXPECT_EQ(db.scalar("SELECT count(*) - count(DISTINCT name) FROM food"), "0");
-
-    // Portion energy from the first household measure, rounded to whole kcal.
-    EXPECT_EQ(db.query("SELECT calories, unit FROM food WHERE name = 'Butter, salted'"),
-              (Rows{{"1628", "1 cup (227 g)"}}));
-
-    Rows names = db.query("SELECT lower(name) FROM food WHERE id > 0 ORDER BY id");
-    for (size_t i = 1; i < names.size(); ++i)
-        ASSERT_LE(names[i - 1][0], names[i][0]) << "out of order at id " << i + 1;
+    EXPECT_EQ(query("SELECT count(*) FROM food WHERE id > 0 AND (typeof(calories) != 'integer' "
+                    "OR calories <= 0 OR unit = '' OR name = '')"),
+              Column{"0"});
+    EXPECT_EQ(query("SELECT count(*) - count(DISTINCT name) FROM food"), Column{"0"});
+    // The first household measure's energy, rounded to whole kcal.
+    EXPECT_EQ(query("SELECT calories || ' ' || unit FROM food WHERE name = 'Butter, salted'"),
+              Column{"1628 1 cup (227 g)"});
+    EXPECT_EQ(query("SELECT count(*) FROM food a JOIN food b ON b.id = a.id + 1 "
+                    "WHERE a.id > 0 AND lower(a.name) > lower(b.name)"),
+              Column{"0"});
 }
 
-// Removed even when an assertion ends the test early.
-struct TempCopy {
-    std::filesystem::path dir, file;
-    TempCopy() {
-        std::string name = (std::filesystem::temp_directory_path() / "food-db-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("mkdtemp failed");
-        dir = name;
-        file = dir / "food.db";
-        std::filesystem::copy_file(FOOD_DB_PATH, file);
-    }
-    ~TempCopy() { std::filesystem::remove_all(dir); }
-};
-
-TEST(FoodCatalogueCopy, DailyDataIdsMatchStringKeysAndMayRepeat) {
-    TempCopy copy;
-    Db db{copy.file.string(), SQLITE_OPEN_READWRITE};
-    // The app writes values in double quotes; they must stay string literals.
-    sqlite3_db_config(db.handle(), SQLITE_DBCONFIG_DQS_DML, 1, nullptr);
-    const std::string insert =
-        R"(INSERT INTO  dailyData (date,id,calorieConsumed,calorieBurned) )"
-        R"(VALUES ("Sunday November 15","5",0,0))";
-    db.exec(insert);
-    EXPECT_EQ(db.scalar("SELECT typeof(id) FROM dailyData WHERE rowid = last_insert_rowid()"),
-              "integer");
-
-    db.exec(R"(UPDATE dailyData SET "calorieConsumed"="250" WHERE id="5";)");
-    EXPECT_EQ(sqlite3_changes(db.handle()), 1);
-    EXPECT_EQ(db.query("SELECT calorieConsumed, typeof(calorieConsumed) FROM dailyData "
-                       "WHERE id = 5"),
-              (Rows{{"250", "integer"}}));
-
-    db.exec(insert);
-    EXPECT_EQ(db.scalar("SELECT count(*) FROM dailyData WHERE id = 5"), "2");
+TEST(FoodCatalogue, DayRowsTakeTheStoresQuotedValuesAndMayRepeat) {
+    TempDir dir;
+    AppState state;
+    state.databasePath = dir.file("food.db");
+    std::filesystem::copy_file(FOOD_DB_PATH, state.databasePath);
+    CalorieStore store(state);
+    store.insertDatabase("Sunday November 15", 5);
+    store.insertDatabase("Sunday November 15", 5);
+    store.UpdateDatabase1("calorieConsumed", "250", 5);
+    EXPECT_EQ(queryColumn(state.databasePath, "SELECT typeof(id) || ' ' || calorieConsumed || ' ' "
+                                              "|| typeof(calorieConsumed) FROM dailyData WHERE id = 5"),
+              (Column{"integer 250 integer", "integer 250 integer"}));
 }
 
 }  // namespace
