@@ -5,17 +5,12 @@
 #include <cstdint>
 #include <string>
 
+#include "store/Geometry.h"
+
 namespace gauge {
 
-struct Rect {
-    float x = 0, y = 0, width = 0, height = 0;
-    bool operator==(const Rect&) const = default;
-};
-
-struct Rgb {
-    int red = 0, green = 0, blue = 0;
-    bool operator==(const Rgb&) const = default;
-};
+using geometry::Rect;
+using geometry::Rgb;
 
 // 10^(n - 1), the rounding unit for a number of n characters; 1 when n <= 1.
 int32_t calculateLength(int n);

@@ -6,24 +6,14 @@
 #include <optional>
 #include <string_view>
 
+#include "store/Geometry.h"
+
 namespace overlay {
 
-struct Size {
-    float width = 0, height = 0;
-    bool operator==(const Size&) const = default;
-};
-struct Point {
-    float x = 0, y = 0;
-    bool operator==(const Point&) const = default;
-};
-struct Rect {
-    float x = 0, y = 0, width = 0, height = 0;
-    bool operator==(const Rect&) const = default;
-};
-struct Rgb {
-    int red = 0, green = 0, blue = 0;
-    bool operator==(const Rgb&) const = default;
-};
+using geometry::Point;
+using geometry::Rect;
+using geometry::Rgb;
+using geometry::Size;
 
 // Text is measured inside this box, its last visible line truncated.
 inline constexpr Size kTextBounds{200, 300};
