@@ -5,11 +5,13 @@ QtObject {
     id: frame
     required property Item item
     property var model
+    // False where a container places the item and only its size counts (a bar button's view).
+    property bool positioned: true
     readonly property bool active: !!model && model.frame.width > 0 && model.frame.height > 0
 
     property list<QtObject> bindings: [
-        Binding { target: frame.item; property: "x"; value: frame.model?.frame.x ?? 0; when: frame.active },
-        Binding { target: frame.item; property: "y"; value: frame.model?.frame.y ?? 0; when: frame.active },
+        Binding { target: frame.item; property: "x"; value: frame.model?.frame.x ?? 0; when: frame.active && frame.positioned },
+        Binding { target: frame.item; property: "y"; value: frame.model?.frame.y ?? 0; when: frame.active && frame.positioned },
         Binding { target: frame.item; property: "width"; value: frame.model?.frame.width ?? 0; when: frame.active },
         Binding { target: frame.item; property: "height"; value: frame.model?.frame.height ?? 0; when: frame.active }
     ]

@@ -6,6 +6,7 @@ Item {
     id: root
     property Button model: Button {}
     property alias font: title.font
+    property alias framePositioned: frameBinding.positioned
     signal touchUpInside(Button sender)
 
     implicitWidth: Math.max(title.implicitWidth, image.status === Image.Ready ? 24 : 0) + 8
@@ -47,5 +48,5 @@ Item {
     Accessible.name: model ? (model.title || model.accessibleName) : ""
     Accessible.onPressAction: press()
 
-    FrameBinding { item: root; model: root.model }
+    FrameBinding { id: frameBinding; item: root; model: root.model }
 }

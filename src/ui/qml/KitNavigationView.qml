@@ -37,9 +37,9 @@ Item {
             width: childrenRect.width
             KitButton {
                 y: (parent.height - height) / 2
+                framePositioned: false
                 visible: !!model
                 model: root.navItem && root.navItem.leftBarButtonItem ? root.navItem.leftBarButtonItem.customView : null
-                width: model && model.frame.width > 0 ? model.frame.width : implicitWidth
             }
             KitButton {
                 // The standard back control, unless a left item takes its place.
@@ -58,9 +58,9 @@ Item {
             width: childrenRect.width
             KitButton {
                 y: (parent.height - height) / 2
+                framePositioned: false
                 visible: !!model
                 model: root.navItem && root.navItem.rightBarButtonItem ? root.navItem.rightBarButtonItem.customView : null
-                width: model && model.frame.width > 0 ? model.frame.width : implicitWidth
             }
         }
     }
