@@ -1,98 +1,62 @@
-// The height step's picker: its columns per unit, titles, and what a chosen row records.
+// The height step's picker: its columns per unit, and what a row the user chooses records.
 #include <gtest/gtest.h>
 
 #include "setup/HeightScreen.h"
 #include "setup/WizardApp.h"
 
-namespace {
-
-HeightScreen* heightIn(WizardApp& app, const char* unit) {
-    AppState::shared().measureUnit = unit;
-    return app.start<HeightScreen>();
-}
-
-std::vector<QString> titles(HeightScreen* screen, int component) {
-    std::vector<QString> out;
-    const int rows = screen->selectPicker()->rowCounts().value(component);
-    for (int row = 0; row < rows; ++row)
-        out.push_back(screen->pickerViewTitleForRowForComponent(row, component));
-    return out;
-}
-
-}  // namespace
-
-TEST(HeightStep, MetricIsCentimetresFrom40To300) {
-    WizardApp app;
-    LogCapture log;
-    AppState::shared().heightCm = 180;  // an earlier visit's choice
-    HeightScreen* screen = heightIn(app, "Metric");
-    PickerView* picker = screen->selectPicker();
-    EXPECT_EQ(picker->rowCounts(), (QList<int>{261, 1}));
-    EXPECT_TRUE(log.contains("Number of rows returned for component 0 are rows 261"));
-    EXPECT_TRUE(log.contains("Number of rows returned for component 1 are rows 1"));
-    EXPECT_TRUE(log.contains("() ()"));  // the Imperial lists stay empty
-
-    EXPECT_FALSE(screen->selectOne);
-    const auto cm = titles(screen, 0);
-    EXPECT_EQ(cm.front(), "40");
-    EXPECT_EQ(cm[135], "175");
-    EXPECT_EQ(cm.back(), "300");
-    EXPECT_EQ(titles(screen, 1), std::vector<QString>{"cm"});
-    EXPECT_TRUE(screen->selectOne);  // asking for titles counts as an answer
-
-    // A wheel turned by code tells nobody; the earlier height stays.
-    picker->selectRow(135, 0, true);
-    EXPECT_EQ(picker->selectedRowInComponent(0), 135);
-    EXPECT_EQ(screen->htLbl()->text(), "");
-    EXPECT_EQ(AppState::shared().heightCm, 180);
-
-    picker->userSelectedRow(135, 0);
-    EXPECT_EQ(screen->htLbl()->text(), "175 cm");
-    EXPECT_EQ(AppState::shared().heightCm, 175);
-    // The column is not looked at: the single "cm" row reads as the first height.
-    picker->userSelectedRow(0, 1);
-    EXPECT_EQ(screen->htLbl()->text(), "40 cm");
-    EXPECT_EQ(AppState::shared().heightCm, 40);
-}
-
-TEST(HeightStep, AnyOtherUnitIsFeetAndInches) {
-    for (const char* unit : {"Imperial", ""}) {
-        SCOPED_TRACE(unit);
+TEST(HeightStep, ColumnsFollowTheUnitAndOnlyARowTheUserChoosesIsRecorded) {
+    // Row and column turned to; then the label, heightCm, heightFeet and heightInches.
+    using Turn = std::tuple<int, int, const char*, int, int, int>;
+    const std::vector<Turn> metric = {
+        {135, 0, "175 cm", 175, 5, 9},
+        {0, 1, "40 cm", 40, 5, 9}};  // the column is not looked at: "cm" reads as row 0
+    const std::vector<Turn> imperial = {
+        {7, 2, "1 Feet 7 inch", 180, 1, 7},  // with the feet the picker starts on
+        {5, 0, "6 Feet 7 inch", 180, 6, 7},
+        {3, 2, "6 Feet 3 inch", 180, 6, 3},
+        {0, 1, "6 Feet 3 inch", 180, 6, 3},  // the unit columns change nothing
+        {0, 3, "6 Feet 3 inch", 180, 6, 3}};
+    const QStringList feetAndInches = {"1", "8", "Feet", "Feet", "0", "11", "inch", "inch"};
+    const struct {
+        const char* unit;
+        QList<int> rows;
+        QStringList titles;  // of the first and the last row of each column
+        const std::vector<Turn>& turns;
+    } cases[] = {{"Metric", {261, 1}, {"40", "300", "cm", "cm"}, metric},
+                 {"Imperial", {8, 1, 12, 1}, feetAndInches, imperial},
+                 {"", {8, 1, 12, 1}, feetAndInches, imperial}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.unit);
         WizardApp app;
-        LogCapture log;
-        HeightScreen* screen = heightIn(app, unit);
-        EXPECT_EQ(screen->selectPicker()->rowCounts(), (QList<int>{8, 1, 12, 1}));
-        EXPECT_TRUE(
-            log.contains("(1, 2, 3, 4, 5, 6, 7, 8) (0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)"));
-        EXPECT_TRUE(screen->mh1.empty());
-        EXPECT_EQ(titles(screen, 0).back(), "8");
-        EXPECT_EQ(titles(screen, 1), std::vector<QString>{"Feet"});
-        EXPECT_EQ(titles(screen, 2).back(), "11");
-        EXPECT_EQ(titles(screen, 3), std::vector<QString>{"inch"});
+        AppState& state = AppState::shared();
+        state.measureUnit = c.unit;
+        std::tie(state.heightCm, state.heightFeet, state.heightInches) = std::tuple(180, 5, 9);
+        auto* screen = app.start<HeightScreen>();
+        PickerView* picker = screen->selectPicker();
+        EXPECT_EQ(picker->rowCounts(), c.rows);
+        // Only the unit's own lists are built.
+        EXPECT_EQ(std::tuple(screen->mh1.size(), screen->ih1.size(), screen->ih2.size()),
+                  c.rows.size() == 2 ? std::tuple(261u, 0u, 0u) : std::tuple(0u, 8u, 12u));
+        EXPECT_FALSE(screen->selectOne);
+        QStringList titles;
+        for (int column = 0; column < c.rows.size(); ++column) {
+            titles << screen->pickerViewTitleForRowForComponent(0, column)
+                   << screen->pickerViewTitleForRowForComponent(c.rows[column] - 1, column);
+        }
+        EXPECT_EQ(titles, c.titles);
+        EXPECT_TRUE(screen->selectOne);
+
+        const auto height = [&] {
+            return std::tuple(screen->htLbl()->text(), state.heightCm, state.heightFeet,
+                              state.heightInches);
+        };
+        // A wheel turned by code tells nobody: an earlier visit's height stays.
+        picker->selectRow(3, 0, true);
+        EXPECT_EQ(picker->selectedRowInComponent(0), 3);
+        EXPECT_EQ(height(), std::tuple("", 180, 5, 9));
+        for (const auto& [row, column, label, cm, feet, inches] : c.turns) {
+            picker->userSelectedRow(row, column);
+            EXPECT_EQ(height(), std::tuple(label, cm, feet, inches)) << row << "," << column;
+        }
     }
-}
-
-TEST(HeightStep, ImperialKeepsTheFeetAndInchesLastChosen) {
-    WizardApp app;
-    HeightScreen* screen = heightIn(app, "Imperial");
-    PickerView* picker = screen->selectPicker();
-    const AppState& state = AppState::shared();
-
-    // Inches alone: the feet the picker starts on ("1") are written with them.
-    picker->userSelectedRow(7, 2);
-    EXPECT_EQ(screen->htLbl()->text(), "1 Feet 7 inch");
-    EXPECT_EQ(state.heightFeet, 1);
-    EXPECT_EQ(state.heightInches, 7);
-
-    picker->userSelectedRow(5, 0);
-    picker->userSelectedRow(3, 2);
-    EXPECT_EQ(screen->htLbl()->text(), "6 Feet 3 inch");
-    EXPECT_EQ(state.heightFeet, 6);
-    EXPECT_EQ(state.heightInches, 3);
-
-    // The unit columns change nothing.
-    picker->userSelectedRow(0, 1);
-    picker->userSelectedRow(0, 3);
-    EXPECT_EQ(screen->htLbl()->text(), "6 Feet 3 inch");
-    EXPECT_EQ(state.heightCm, 0);
 }

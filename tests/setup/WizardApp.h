@@ -1,7 +1,6 @@
 #pragma once
-// The set-up screens on a navigation stack in a window that nothing draws. The application's
-// delegate is real underneath: a calorie store over a fresh copy of food.db and the user
-// defaults, both in a throwaway folder. Tests drive the screens through outlets and actions.
+// The set-up screens on a navigation stack in a window that nothing draws, over the real calorie
+// store (a fresh copy of food.db) and user defaults in a throwaway folder.
 
 #include <QSettings>
 #include <filesystem>
@@ -21,14 +20,11 @@ public:
     WizardApp() : store_(AppState::shared()) {
         AppState& state = AppState::shared();
         state = AppState{};
-        state.databaseName = "food.db";
         state.databasePath = databasePath();
         std::filesystem::copy_file(FOOD_DB_PATH, state.databasePath);
         std::filesystem::permissions(state.databasePath, std::filesystem::perms::owner_write,
                                      std::filesystem::perm_options::add);
-        defaults_ =
-            std::make_unique<SettingsDefaults>(QString::fromStdString(dir_.path().string()));
-        state.defaults = defaults_.get();
+        state.defaults = &defaults_;
         Application::setDelegate(this);
     }
     ~WizardApp() override {
@@ -36,12 +32,10 @@ public:
         Application::setDelegate(nullptr);
         AppState::shared() = AppState{};
     }
-    WizardApp(const WizardApp&) = delete;
-    WizardApp& operator=(const WizardApp&) = delete;
 
     CalorieStore& store() override { return store_; }
     Window* window() override { return window_.get(); }
-    UserDefaults* standardUserDefaults() override { return defaults_.get(); }
+    UserDefaults* standardUserDefaults() override { return &defaults_; }
 
     // Makes a new Step the root of the window's stack; it loads and appears at once.
     template <class Step>
@@ -51,32 +45,21 @@ public:
         return step;
     }
     NavigationController* nav() { return window_->rootViewController(); }
-    // The screen on top when it is a Step, else null.
+    // The top screen if it is a Step, and the alert on show; else null.
     template <class Step>
     Step* top() {
         return qobject_cast<Step*>(nav()->topViewController());
     }
-
-    // The alert on show, if any.
-    AlertView* alert() {
-        const QList<QObject*> shown = window_->presented();
-        return shown.isEmpty() ? nullptr : qobject_cast<AlertView*>(shown.last());
-    }
-    void dismissAlert() {
-        if (AlertView* shown = alert()) shown->clickButtonAtIndex(0);
-    }
+    AlertView* alert() { return qobject_cast<AlertView*>(window_->presented().value(0)); }
 
     std::string databasePath() const { return dir_.file("food.db"); }
-    // "firstTime" as the defaults file on disk holds it.
     QString firstTimeOnDisk() const {
-        return QSettings(QString::fromStdString(dir_.file("defaults.ini")), QSettings::IniFormat)
-            .value("firstTime")
-            .toString();
+        return QSettings(defaults_.fileName(), QSettings::IniFormat).value("firstTime").toString();
     }
 
 private:
     TempDir dir_;
     CalorieStore store_;
-    std::unique_ptr<SettingsDefaults> defaults_;
+    SettingsDefaults defaults_{QString::fromStdString(dir_.path().string())};
     std::unique_ptr<Window> window_ = std::make_unique<Window>();
 };

@@ -1,8 +1,7 @@
-// The set-up chain: titles and bar buttons of each step, the alert of an incomplete step, going
-// back and forth, and the answers of the choice and weight steps.
+// The set-up chain: each step's bar buttons and the alert of an incomplete step, going back and
+// forth, and the answers the choice and weight steps record.
 #include <gtest/gtest.h>
 
-#include "setup/BirthdayScreen.h"
 #include "setup/EnterWtScreen.h"
 #include "setup/GenderScreen.h"
 #include "setup/GoalWeightScreen.h"
@@ -11,123 +10,63 @@
 #include "setup/WizardApp.h"
 #include "ui/Colors.h"
 
-namespace {
-
-// A choice control, tagged as the layouts tag them.
-class Choice : public Button {
-public:
-    explicit Choice(int tag) { setTag(tag); }
-};
-
-// Answers a step the way its layout would, so that its "Next" goes on.
-void answer(ViewController* step) {
-    Choice first(0);
-    if (auto* unit = qobject_cast<MeasureUnitScreen*>(step)) unit->selectunit(&first);
-    if (auto* weight = qobject_cast<EnterWtScreen*>(step))
-        weight->enterWtTxt()->setText("abc");  // only looked at for presence
-    if (auto* goal = qobject_cast<GoalWeightScreen*>(step)) goal->enterGWtTxt()->setText("70");
-    if (auto* gender = qobject_cast<GenderScreen*>(step)) gender->genderBtn(&first);
-    if (auto* height = qobject_cast<HeightScreen*>(step))
-        height->pickerViewTitleForRowForComponent(0, 0);  // the picker shows its rows
-}
-
-void next(WizardApp& app) {
-    answer(app.nav()->topViewController());
-    qobject_cast<WizardScreen*>(app.nav()->topViewController())->nextButton();
-}
-
-Button* barButton(BarButtonItem* item) {
-    return item ? item->customView() : nullptr;
-}
-
-void expectBarButton(Button* button, const char* title, qreal width) {
-    ASSERT_NE(button, nullptr) << title;
-    EXPECT_EQ(button->title(), title);
-    EXPECT_EQ(button->frame(), QRectF(0, 0, width, 38));
-    EXPECT_EQ(button->titleColor(), redColor());
-    EXPECT_FALSE(button->adjustsImageWhenHighlighted());
-}
-
-}  // namespace
-
-TEST(WizardFlow, EachStepHasItsBarAndGoesOnOnlyWhenAnswered) {
+TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
+    const auto bar = [](ViewController* step, bool next) {
+        NavigationItem* item = step->navigationItem();
+        BarButtonItem* button = next ? item->rightBarButtonItem() : item->leftBarButtonItem();
+        return button ? button->customView() : nullptr;
+    };
     WizardApp app;
     app.start<MeasureUnitScreen>();
-    const struct {
-        const char* screen;
-        const char* title;
-        bool previous;
-        const char* alert;  // null: no "Next"
-    } steps[] = {{"MeasureUnitScreen", "", false, "Select one measuring unit"},
-                 {"EnterWtScreen", "Starting Weight", true, "Enter Today's Weight"},
-                 {"GoalWeightScreen", "Goal Weight", true, "Enter Goal Weight"},
-                 {"GenderScreen", "Gender", true, "Select Gender"},
-                 {"HeightScreen", "Height", true, "Enter Height"},
-                 {"BirthdayScreen", "Birthday", true, nullptr}};
+    const char* const steps[][3] = {{"MeasureUnitScreen", "", "Select one measuring unit"},
+                                    {"EnterWtScreen", "Starting Weight", "Enter Today's Weight"},
+                                    {"GoalWeightScreen", "Goal Weight", "Enter Goal Weight"},
+                                    {"GenderScreen", "Gender", "Select Gender"},
+                                    {"HeightScreen", "Height", "Enter Height"},
+                                    {"BirthdayScreen", "Birthday", nullptr}};  // no "Next"
     for (int i = 0; i < 6; ++i) {
-        const auto& step = steps[i];
-        SCOPED_TRACE(step.screen);
+        const auto [name, title, missing] = steps[i];
+        SCOPED_TRACE(name);
         ViewController* screen = app.nav()->topViewController();
         ASSERT_EQ(app.nav()->viewControllers().size(), i + 1);
-        EXPECT_STREQ(screen->metaObject()->className(), step.screen);
-        EXPECT_EQ(screen->layoutName(), step.screen);
-        EXPECT_EQ(screen->title(), step.title);
-        NavigationItem* item = screen->navigationItem();
-        if (step.previous) expectBarButton(barButton(item->leftBarButtonItem()), "Previous", 70);
-        EXPECT_EQ(item->leftBarButtonItem() != nullptr, step.previous);
-        EXPECT_EQ(item->rightBarButtonItem() != nullptr, step.alert != nullptr);
-        // Steps 2 to 5 ask the navigation controller's own item, never the screen's.
-        EXPECT_FALSE(item->hidesBackButton());
-        EXPECT_EQ(app.nav()->navigationItem()->hidesBackButton(), i >= 1);
-        if (!step.alert) break;
+        EXPECT_STREQ(screen->metaObject()->className(), name);
+        EXPECT_EQ(screen->layoutName(), name);
+        EXPECT_EQ(screen->title(), title);
+        EXPECT_EQ(bar(screen, false) ? bar(screen, false)->title() : "", i ? "Previous" : "");
+        EXPECT_EQ(bar(screen, true) ? bar(screen, true)->title() : "", missing ? "Next" : "");
+        if (!missing) break;
 
-        // Blank weights are no answer either.
-        if (auto* weight = qobject_cast<EnterWtScreen*>(screen))
-            weight->enterWtTxt()->setText(" \t ");
-        if (auto* goal = qobject_cast<GoalWeightScreen*>(screen))
-            goal->enterGWtTxt()->setText("\t");
-        Button* next = barButton(item->rightBarButtonItem());
-        expectBarButton(next, "Next", 40);
-        next->sendTouchUpInside();
+        auto* weight = qobject_cast<EnterWtScreen*>(screen);
+        auto* goal = qobject_cast<GoalWeightScreen*>(screen);
+        TextField* field = weight ? weight->enterWtTxt() : goal ? goal->enterGWtTxt() : nullptr;
+        if (field) field->setText(" \t ");  // blanks are no answer
+        bar(screen, true)->sendTouchUpInside();
         AlertView* alert = app.alert();
         ASSERT_NE(alert, nullptr);
-        EXPECT_EQ(alert->title(), "Message");
-        EXPECT_EQ(alert->message(), step.alert);
-        EXPECT_EQ(alert->buttonTitles(), QStringList{"Ok"});
-        EXPECT_EQ(app.nav()->topViewController(), screen);
+        EXPECT_EQ(std::tuple(alert->title(), alert->message(), alert->buttonTitles()),
+                  std::tuple("Message", missing, QStringList{"Ok"}));
         alert->clickButtonAtIndex(0);
-        EXPECT_EQ(app.alert(), nullptr);
+        EXPECT_EQ(app.nav()->topViewController(), screen);
 
-        answer(screen);
-        next->sendTouchUpInside();
+        // Answered as the layouts would; the starting weight is only looked at for presence.
+        Button second;  // the choice control tagged 1
+        second.setTag(1);
+        if (auto* unit = qobject_cast<MeasureUnitScreen*>(screen)) unit->selectunit(&second);
+        if (auto* gender = qobject_cast<GenderScreen*>(screen)) gender->genderBtn(&second);
+        if (auto* height = qobject_cast<HeightScreen*>(screen))
+            height->pickerViewTitleForRowForComponent(0, 0);  // the picker shows its rows
+        if (field) field->setText("abc");
+        bar(screen, true)->sendTouchUpInside();
     }
-    // The last step's "Next" does nothing at all.
-    auto* birthday = app.top<BirthdayScreen>();
-    birthday->nextButton();
-    EXPECT_EQ(app.top<BirthdayScreen>(), birthday);
-    EXPECT_EQ(app.alert(), nullptr);
-}
-
-TEST(WizardFlow, GoingBackKeepsAnswersButAFreshStepHasNoChoice) {
-    WizardApp app;
-    app.start<MeasureUnitScreen>();
-    for (int i = 0; i < 3; ++i) next(app);
+    // Back to the same gender step, its mark as it was.
+    for (int back = 0; back < 2; ++back)
+        bar(app.nav()->topViewController(), false)->sendTouchUpInside();
     auto* gender = app.top<GenderScreen>();
     ASSERT_NE(gender, nullptr);
-    Choice female(1);
-    gender->genderBtn(&female);
-    gender->nextButton();
-    ASSERT_NE(app.top<HeightScreen>(), nullptr);
-
-    // Back to the same gender step, its mark as it was.
-    barButton(app.top<HeightScreen>()->navigationItem()->leftBarButtonItem())->sendTouchUpInside();
-    EXPECT_EQ(app.top<GenderScreen>(), gender);
     EXPECT_TRUE(gender->selectOne);
     EXPECT_EQ(gender->check2()->imageName(), "check");
-
     // Back once more and forward: a new gender step, nothing marked, although the answer stays.
     gender->previousButton();
-    ASSERT_NE(app.top<GoalWeightScreen>(), nullptr);
     app.top<GoalWeightScreen>()->nextButton();
     auto* again = app.top<GenderScreen>();
     ASSERT_NE(again, nullptr);
@@ -140,53 +79,45 @@ TEST(WizardFlow, GoingBackKeepsAnswersButAFreshStepHasNoChoice) {
     EXPECT_EQ(app.top<GenderScreen>(), again);
 }
 
-TEST(ChoiceSteps, TheLastChoiceCountsAndIsTheOneMarked) {
+TEST(ChoiceSteps, Tag0IsTheFirstAnswerAnyOtherTheSecondAndTheLastCounts) {
     WizardApp app;
     LogCapture log;
-    Choice first(0), second(1), other(7);
     auto* unit = app.start<MeasureUnitScreen>();
-    unit->selectunit(&second);
-    unit->selectunit(&first);
-    EXPECT_TRUE(unit->selectOne);
-    EXPECT_EQ(AppState::shared().measureUnit, "Metric");
-    EXPECT_EQ(unit->check1()->imageName(), "check");
-    EXPECT_EQ(unit->check2()->imageName(), "uncheck");
-
-    auto* gender = app.start<GenderScreen>();
-    gender->genderBtn(&other);  // any tag but 0 is the second choice
-    EXPECT_EQ(AppState::shared().genderValue, 1);
-    EXPECT_EQ(gender->check2()->imageName(), "check");
-    EXPECT_EQ(gender->femaleLbl()->textColor(), redColor());
-    EXPECT_EQ(gender->maleLbl()->textColor(), QColor(Qt::black));
-    gender->genderBtn(&first);
-    EXPECT_EQ(AppState::shared().genderValue, 0);
-    EXPECT_EQ(gender->check1()->imageName(), "check");
-    EXPECT_EQ(gender->maleLbl()->textColor(), redColor());
-    EXPECT_EQ(gender->femaleLbl()->textColor(), QColor(Qt::black));
-
-    // The gender step logs the unit words.
-    EXPECT_EQ(log.lines(), (std::vector<std::string>{"Imperial", "Metric", "Imperial", "Metric"}));
+    auto* gender = new GenderScreen("GenderScreen");
+    app.nav()->pushViewController(gender, false);
+    for (int tag : {7, 0}) {
+        Button choice;
+        choice.setTag(tag);
+        unit->selectunit(&choice);
+        gender->genderBtn(&choice);
+        const bool first = tag == 0;
+        for (ChoiceScreen* screen : std::initializer_list<ChoiceScreen*>{unit, gender}) {
+            EXPECT_TRUE(screen->selectOne);
+            EXPECT_EQ(screen->check1()->imageName(), first ? "check" : "uncheck") << tag;
+            EXPECT_EQ(screen->check2()->imageName(), first ? "uncheck" : "check") << tag;
+        }
+        EXPECT_EQ(AppState::shared().measureUnit, first ? "Metric" : "Imperial");
+        EXPECT_EQ(AppState::shared().genderValue, first ? 0 : 1);
+        EXPECT_EQ(gender->maleLbl()->textColor(), first ? redColor() : QColor(Qt::black));
+        EXPECT_EQ(gender->femaleLbl()->textColor(), first ? QColor(Qt::black) : redColor());
+    }
+    // The gender step logs the unit words too.
+    EXPECT_EQ(log.lines(), (std::vector<std::string>{"Imperial", "Imperial", "Metric", "Metric"}));
 }
 
 TEST(WeightSteps, AskInTheChosenUnitAndTakeTheGoalsLeadingNumber) {
-    for (const char* unit : {"Metric", "Imperial", ""}) {
-        WizardApp app;
-        AppState::shared().measureUnit = unit;
-        auto* goal = app.start<GoalWeightScreen>();
-        const QString word = std::string(unit) == "Metric" ? "Kilograms" : "Pounds";
-        EXPECT_TRUE(goal->enterGWtTxt()->firstResponder()) << unit;
-        EXPECT_EQ(goal->enterGWtTxt()->placeholder(), word) << unit;
-        EXPECT_EQ(goal->wtLbl()->text(), word) << unit;
-    }
-
     WizardApp app;
     const struct {
-        const char* text;
+        const char *unit, *word, *text;
         float goal;
-    } cases[] = {{"  72.5kg", 72.5f}, {"70.3", 70.3f}, {"-5", -5.0f}, {"abc", 0.0f}};
+    } cases[] = {{"Metric", "Kilograms", "  72.5kg", 72.5f},  // the untrimmed text's number
+                 {"Imperial", "Pounds", "-5", -5.0f},         // no range
+                 {"", "Pounds", "abc", 0.0f}};                // and no number needed
     for (const auto& c : cases) {
+        AppState::shared().measureUnit = c.unit;
         auto* goal = app.start<GoalWeightScreen>();
-        AppState::shared().goalWeightValue = 99.0f;
+        EXPECT_EQ(goal->enterGWtTxt()->placeholder(), c.word);
+        EXPECT_EQ(goal->wtLbl()->text(), c.word);
         goal->enterGWtTxt()->setText(c.text);
         goal->nextButton();
         EXPECT_NE(app.top<GenderScreen>(), nullptr) << c.text;
