@@ -14,7 +14,16 @@ Rectangle {
         currentIndex: root.controller.selectedIndex
         Repeater {
             model: root.controller.viewControllers
-            KitNavigationView { required property var modelData; nav: modelData }
+            // A tab's screens are drawn from its first visit on, not all at start-up.
+            Loader {
+                id: tab
+                required property var modelData
+                required property int index
+                property bool visited: false
+                active: visited || index === root.controller.selectedIndex
+                onLoaded: visited = true
+                sourceComponent: KitNavigationView { nav: tab.modelData }
+            }
         }
     }
 
