@@ -62,6 +62,7 @@ Startup runOnce(const fs::path& program, const std::vector<std::string>& args) {
     if (pid == 0) {
         dup2(out[1], STDOUT_FILENO);
         close(out[0]);
+        if (FILE* quiet = std::fopen("/dev/null", "w")) dup2(fileno(quiet), STDERR_FILENO);
         std::vector<char*> argv{const_cast<char*>(program.c_str())};
         for (const auto& a : args) argv.push_back(const_cast<char*>(a.c_str()));
         argv.push_back(nullptr);
