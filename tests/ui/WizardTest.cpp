@@ -16,13 +16,16 @@
 
 namespace {
 
+QPointF centre(const QQuickItem* item) {
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+}
+
 // Flicks the named wheel by about rows (positive: on to later titles) and waits until it has
 // come to rest, as the choice is made only then.
 bool drag(AppHarness& app, const QString& wheelName, int rows) {
     QQuickItem* wheel = app.findByName(wheelName);
     if (!wheel) return false;
-    app.drag(wheel->mapToScene(QPointF(wheel->width() / 2, wheel->height() / 2)),
-             -rows * wheel->height() / 5);
+    app.drag(centre(wheel), -rows * wheel->height() / 5);
     for (int waited = 0; wheel->property("moving").toBool() && waited < 10000; waited += 100)
         app.settle(100);
     return !wheel->property("moving").toBool();
@@ -104,7 +107,6 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
         ASSERT_TRUE(app.tabTo("Height"));
         app.key(Qt::Key_Down, 5);
         EXPECT_EQ(state.heightCm, 45);
-        EXPECT_NE(app.findByName("45 cm"), nullptr);
         app.key(Qt::Key_PageDown, 26);  // five rows a page
         EXPECT_EQ(state.heightCm, 175);
     }
@@ -120,11 +122,9 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
     const int startYear = birthday->datePicker()->year();
     if (pad) {
         ASSERT_TRUE(drag(app, "Year", -2));
-        QQuickItem* day = app.findByName("Day");
-        ASSERT_NE(day, nullptr);
-        const int firstDay = birthday->datePicker()->day();
-        app.scroll(day->mapToScene(QPointF(day->width() / 2, day->height() / 2)), firstDay > 1 ? -1 : 1);
-        EXPECT_EQ(birthday->datePicker()->day(), firstDay > 1 ? firstDay - 1 : firstDay + 1);
+        const int day = birthday->datePicker()->day();  // a notch of the mouse wheel turns a row
+        app.scroll(centre(app.findByName("Day")), day > 1 ? -1 : 1);
+        EXPECT_EQ(birthday->datePicker()->day(), day > 1 ? day - 1 : day + 1);
     } else {
         ASSERT_TRUE(app.tabTo("Year"));
         app.key(Qt::Key_Up, 2);
