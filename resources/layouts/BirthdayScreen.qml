@@ -57,6 +57,7 @@ KitScreen {
                 width: 24 * step.unit
                 height: width
                 running: parent.visible
+                Accessible.ignored: true  // the text beside it says what is going on
             }
             Text {
                 anchors.verticalCenter: parent.verticalCenter
@@ -65,6 +66,7 @@ KitScreen {
                 font.family: Theme.fontFamily
                 font.pixelSize: 14 * step.unit
                 Accessible.role: Accessible.StaticText; Accessible.name: text
+                Accessible.ignored: !visible || !enabled
             }
         }
     }

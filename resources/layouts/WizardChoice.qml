@@ -3,8 +3,8 @@ import "qrc:/ui"
 import CalorieKit
 
 // One answer of a choice step: a large row with a title, a line of detail and its check image.
-// The whole row is the button, tagged by the layout; the row is outlined while it is the one
-// checked.
+// The whole row is the button, tagged by the layout: a radio button, checked (and the row
+// outlined) while the screen's check image for it is "check".
 Rectangle {
     id: row
     property real unit: 1
@@ -59,6 +59,9 @@ Rectangle {
         anchors.fill: parent
         model.accessibleName: row.title
         model.tag: row.tag
+        radius: row.radius
+        checkable: true
+        checked: row.checked
         onTouchUpInside: sender => row.touchUpInside(sender)
         Accessible.description: row.detail
     }

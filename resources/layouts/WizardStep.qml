@@ -30,6 +30,7 @@ Item {
             font.weight: Font.DemiBold
             font.letterSpacing: 1
             Accessible.role: Accessible.StaticText; Accessible.name: "Step " + step.number + " of 6"
+            Accessible.ignored: !visible || !enabled
         }
         Text {
             width: column.width
@@ -40,6 +41,7 @@ Item {
             font.pixelSize: 23 * step.unit
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading; Accessible.name: text
+            Accessible.ignored: !visible || !enabled
         }
         Text {
             width: column.width
@@ -51,6 +53,7 @@ Item {
             font.family: Theme.fontFamily
             font.pixelSize: 14 * step.unit
             Accessible.role: Accessible.StaticText; Accessible.name: text
+            Accessible.ignored: !visible || !enabled
         }
         Item { width: 1; height: 14 * step.unit }
         Column {

@@ -77,6 +77,20 @@ QString HeightScreen::pickerViewTitleForRowForComponent(int64_t row, int64_t com
     }
 }
 
+QString HeightScreen::pickerViewAccessibilityLabelForComponent(int64_t component) {
+    if (pickerValue == 0) return component == 0 ? "Height" : "cm";
+    switch (component) {
+        case 0:
+            return "Feet";
+        case 1:
+            return "Feet unit";
+        case 2:
+            return "Inches";
+        default:
+            return "Inches unit";
+    }
+}
+
 void HeightScreen::pickerViewDidSelectRowInComponent(int64_t row, int64_t component) {
     AppState& state = AppState::shared();
     if (pickerValue == 0) {

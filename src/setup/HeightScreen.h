@@ -27,6 +27,8 @@ public:
     // Asking for any title counts as the height being chosen: the picker asks as soon as it shows.
     QString pickerViewTitleForRowForComponent(int64_t row, int64_t component) override;
     void pickerViewDidSelectRowInComponent(int64_t row, int64_t component) override;
+    // "Height" and "cm" in Metric; "Feet", "Inches" and their unit columns otherwise.
+    QString pickerViewAccessibilityLabelForComponent(int64_t component) override;
 
     int64_t pickerValue = 0;       // 0 Metric, 1 Imperial
     std::vector<std::string> mh1;  // "40" to "300" (Metric)

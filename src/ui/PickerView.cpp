@@ -30,6 +30,10 @@ QString PickerView::titleForRow(int row, int component) {
     return delegate_ ? delegate_->pickerViewTitleForRowForComponent(row, component) : QString();
 }
 
+QString PickerView::accessibilityLabelForComponent(int component) {
+    return delegate_ ? delegate_->pickerViewAccessibilityLabelForComponent(component) : QString();
+}
+
 void PickerView::userSelectedRow(int row, int component) {
     if (component < 0 || component >= selected_.size()) return;
     if (row < 0 || row >= rowCounts_[component]) return;

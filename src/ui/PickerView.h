@@ -1,8 +1,9 @@
 #pragma once
 // A picker of wheels ("components"), each a column of rows. What it shows is asked of its data
-// source (how many wheels and rows) and its delegate (each row's title, as the wheel draws it);
-// the delegate also hears of the row a wheel comes to rest on after the user turned it. A row
-// selected by code is not reported.
+// source (how many wheels and rows) and its delegate (each row's title, as the wheel draws it,
+// and what each wheel sets, as assistive technology names it); the delegate also hears of the row
+// a wheel comes to rest on after the user turned it, by pointer, keyboard or assistive technology.
+// A row selected by code is not reported.
 
 #include <QList>
 #include <QString>
@@ -23,6 +24,8 @@ class PickerViewDelegate {
 public:
     virtual QString pickerViewTitleForRowForComponent(int64_t row, int64_t component) = 0;
     virtual void pickerViewDidSelectRowInComponent(int64_t row, int64_t component) = 0;
+    // What the wheel sets ("Height", "Minutes"); empty leaves it unnamed.
+    virtual QString pickerViewAccessibilityLabelForComponent(int64_t /*component*/) { return {}; }
 
 protected:
     ~PickerViewDelegate() = default;
@@ -51,6 +54,8 @@ public:
 
     // For the renderer: a row's title, asked of the delegate when the wheel draws it.
     Q_INVOKABLE QString titleForRow(int row, int component);
+    // For the renderer: a wheel's accessible name, asked of the delegate.
+    Q_INVOKABLE QString accessibilityLabelForComponent(int component);
     // For the renderer: the user turned a wheel and it came to rest on row.
     Q_INVOKABLE void userSelectedRow(int row, int component);
 

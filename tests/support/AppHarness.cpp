@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QSettings>
 #include <QTest>
+#include <QWheelEvent>
 #include <filesystem>
 
 #include "store/AppState.h"
@@ -101,6 +102,24 @@ void AppHarness::type(const QString& text) {
     settle(50);
 }
 
+void AppHarness::key(Qt::Key key, int times) {
+    for (int i = 0; i < times; ++i) QTest::keyClick(quickWindow(), key);
+    settle(50);
+}
+
+QQuickItem* AppHarness::focused() { return quickWindow()->activeFocusItem(); }
+
+bool AppHarness::tabTo(const QString& name) {
+    const auto named = [&] {
+        QAccessibleInterface* node = focused() ? QAccessible::queryAccessibleInterface(focused()) : nullptr;
+        return node && node->text(QAccessible::Name) == name;
+    };
+    // Once round everything a screen shows, and a little more.
+    for (int presses = 0; presses < 40 && !named(); ++presses)
+        QTest::keyClick(quickWindow(), Qt::Key_Tab);
+    return named();
+}
+
 void AppHarness::drag(QPointF from, qreal dy) {
     QQuickWindow* window = quickWindow();
     const QPoint start = from.toPoint();
@@ -111,6 +130,14 @@ void AppHarness::drag(QPointF from, qreal dy) {
     }
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(0, int(dy)), 16);
     settle(900);
+}
+
+void AppHarness::scroll(QPointF at, int notches) {
+    const QPoint delta(0, -120 * notches);
+    QWheelEvent event(at, quickWindow()->mapToGlobal(at), QPoint(), delta, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(quickWindow(), &event);
+    settle(50);
 }
 
 QImage AppHarness::grab() { return quickWindow()->grabWindow(); }

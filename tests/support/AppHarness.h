@@ -53,8 +53,16 @@ public:
     bool press(const QString& name);
     // Types text into the focused item with real key events.
     void type(const QString& text);
+    // Presses and releases key, times times over, on whatever has the keyboard.
+    void key(Qt::Key key, int times = 1);
+    // The item that has the keyboard, or null.
+    QQuickItem* focused();
+    // Presses Tab until an item of that accessible name has the keyboard; false if none gets it.
+    bool tabTo(const QString& name);
     // Drags vertically from a window point by dy (a wheel turn).
     void drag(QPointF from, qreal dy);
+    // Turns the mouse wheel over a window point by notches (positive: towards the user).
+    void scroll(QPointF at, int notches);
 
     QImage grab();
     // Saves under the build folder's screenshots/; returns the path.

@@ -2,16 +2,24 @@ import QtQuick
 import CalorieKit
 
 // Renders an ActionSheet: the choices in a rounded group at the bottom, then Cancel on its own.
-Rectangle {
+// To assistive technology it is a dialog named by its title. It takes the keyboard as it shows
+// (Tab reaches its buttons); Escape presses Cancel.
+FocusScope {
     id: root
     property ActionSheet model
+    readonly property int cancelIndex: model ? model.otherButtonTitles.length : 0
     anchors.fill: parent
-    color: "#66000000"
+
+    Rectangle { anchors.fill: parent; color: "#66000000" }
     MouseArea { anchors.fill: parent }
 
     Column {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 8 }
         spacing: 8
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.model ? root.model.title : ""
+        Accessible.ignored: !root.enabled
+
         Rectangle {
             width: parent.width
             height: group.height
@@ -27,7 +35,6 @@ Rectangle {
                     color: Theme.secondaryText
                     font.family: Theme.fontFamily; font.pixelSize: 13
                     horizontalAlignment: Text.AlignHCenter; verticalAlignment: Text.AlignVCenter
-                    Accessible.role: Accessible.StaticText; Accessible.name: text
                 }
                 Repeater {
                     model: root.model ? root.model.otherButtonTitles : []
@@ -39,6 +46,7 @@ Rectangle {
                         KitButton {
                             width: parent.width
                             height: 56
+                            focusRing.anchors.margins: 3
                             model: Button { title: modelData; titleColor: Theme.tint }
                             font.pixelSize: 20
                             onTouchUpInside: root.model.clickButtonAtIndex(index)
@@ -54,11 +62,17 @@ Rectangle {
             color: "white"
             KitButton {
                 anchors.fill: parent
+                radius: 13
+                focusRing.anchors.margins: 3
                 model: Button { title: root.model ? root.model.cancelButtonTitle : ""; titleColor: Theme.tint }
                 font.pixelSize: 20
                 font.weight: Font.DemiBold
-                onTouchUpInside: root.model.clickButtonAtIndex(root.model.otherButtonTitles.length)
+                onTouchUpInside: root.model.clickButtonAtIndex(root.cancelIndex)
             }
         }
     }
+
+    Keys.onEscapePressed: model.clickButtonAtIndex(cancelIndex)
+    // Once the window holds it: the keyboard cannot be given before.
+    Component.onCompleted: Qt.callLater(() => root.forceActiveFocus())
 }

@@ -1,12 +1,16 @@
 import QtQuick
 import CalorieKit
 
-// Renders an AlertView: a centred box over a dimmed window; any button dismisses it.
-Rectangle {
+// Renders an AlertView: a centred box over a dimmed window; any button dismisses it. To assistive
+// technology it is an alert named by its title with its message as description, announced as it
+// shows. It takes the keyboard as it shows (Tab reaches its buttons): Return, Enter and Escape
+// press the cancel button (index 0).
+FocusScope {
     id: root
     property AlertView model
     anchors.fill: parent
-    color: "#66000000"
+
+    Rectangle { anchors.fill: parent; color: "#66000000" }
     MouseArea { anchors.fill: parent }  // the alert is modal
 
     Rectangle {
@@ -15,6 +19,11 @@ Rectangle {
         height: content.height
         radius: 13
         color: "#F2F2F2"
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: root.model ? root.model.title : ""
+        Accessible.description: root.model ? root.model.message : ""
+        Accessible.ignored: !root.enabled
+
         Column {
             id: content
             width: parent.width
@@ -25,7 +34,6 @@ Rectangle {
                 font.family: Theme.fontFamily; font.pixelSize: 17; font.weight: Font.DemiBold
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
-                Accessible.role: Accessible.StaticText; Accessible.name: text
             }
             Item { width: 1; height: 4 }
             Text {
@@ -34,7 +42,6 @@ Rectangle {
                 font.family: Theme.fontFamily; font.pixelSize: 13
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
-                Accessible.role: Accessible.StaticText; Accessible.name: text
             }
             Item { width: 1; height: 18 }
             Repeater {
@@ -47,6 +54,7 @@ Rectangle {
                     KitButton {
                         width: parent.width
                         height: 44
+                        focusRing.anchors.margins: 3
                         model: Button { title: modelData; titleColor: Theme.tint }
                         onTouchUpInside: root.model.clickButtonAtIndex(index)
                     }
@@ -54,4 +62,12 @@ Rectangle {
             }
         }
     }
+
+    Keys.onPressed: event => {
+        if (![Qt.Key_Return, Qt.Key_Enter, Qt.Key_Escape].includes(event.key)) return
+        event.accepted = true
+        model.clickButtonAtIndex(0)
+    }
+    // Once the window holds it: the keyboard cannot be given before.
+    Component.onCompleted: Qt.callLater(() => root.forceActiveFocus())
 }

@@ -16,6 +16,7 @@ Item {
         anchors.fill: parent
         KitWheel {
             id: month
+            Accessible.name: "Month"
             width: root.width * 0.46
             height: root.height
             font: root.font
@@ -25,6 +26,7 @@ Item {
         }
         KitWheel {
             id: day
+            Accessible.name: "Day"
             width: root.width * 0.2
             height: root.height
             font: root.font
@@ -34,6 +36,7 @@ Item {
         }
         KitWheel {
             id: year
+            Accessible.name: "Year"
             width: root.width * 0.34
             height: root.height
             font: root.font

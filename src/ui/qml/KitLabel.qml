@@ -18,6 +18,7 @@ Text {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: text
+    Accessible.ignored: !visible || !enabled || !text  // covered, or nothing to read
 
     FrameBinding { item: root; model: root.model }
 }

@@ -3,6 +3,8 @@ import QtQuick.Controls.Basic
 import CalorieKit
 
 // Renders a NavigationController: the bar of the top screen and the stack of screen layouts.
+// Only the top screen takes input; the stack hides the ones beneath once it has slid over them.
+// A new top screen gets the keyboard while this view is the one on top.
 Item {
     id: root
     property NavigationController nav
@@ -29,6 +31,7 @@ Item {
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
             Accessible.name: text
+            Accessible.ignored: !visible || !enabled || !text
         }
         Item {
             id: left
@@ -70,13 +73,15 @@ Item {
         anchors.fill: parent
         anchors.topMargin: bar.visible ? bar.height : 0
         clip: true
+        Accessible.ignored: !visible || !enabled
     }
 
     Component {
         id: host
-        Item {
+        FocusScope {
             id: page
             property ViewController screen
+            enabled: screen === root.topScreen
             Loader {
                 anchors.fill: parent
                 Component.onCompleted: setSource("qrc:/layouts/" + (page.screen.layoutName || "Empty") + ".qml",
@@ -90,10 +95,18 @@ Item {
         target: root.nav
         function onPushed(controller, animated) {
             stack.push(host, { screen: controller }, animated ? StackView.PushTransition : StackView.Immediate)
+            Qt.callLater(root.focusTop)
         }
         function onPopped(count, animated) {
             stack.pop(stack.get(stack.depth - 1 - count), animated ? StackView.PopTransition : StackView.Immediate)
+            Qt.callLater(root.focusTop)
         }
+    }
+
+    // The top screen's field that wants the keyboard has it, or else the screen itself, so that
+    // Tab starts on its first control. Not while something covers this view.
+    function focusTop() {
+        if (visible && enabled && stack.currentItem) stack.currentItem.forceActiveFocus()
     }
 
     // The stack as it is when this view starts rendering a controller; later changes animate.

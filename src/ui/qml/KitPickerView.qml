@@ -1,8 +1,8 @@
 import QtQuick
 import CalorieKit
 
-// Renders a PickerView: one wheel per component, side by side and equally wide. Titles are asked
-// of the picker as the wheels draw their rows; a reload builds the wheels anew.
+// Renders a PickerView: one wheel per component, side by side and equally wide. Titles and the
+// wheels' accessible names are asked of the picker; a reload builds the wheels anew.
 Item {
     id: root
     property PickerView model: PickerView {}
@@ -25,6 +25,7 @@ Item {
                 font: root.font
                 model: modelData
                 titleAt: row => root.model.titleForRow(row, index)
+                Accessible.name: root.model.accessibilityLabelForComponent(index)
                 onSettled: row => root.model.userSelectedRow(row, index)
                 Component.onCompleted: select(root.model.selectedRowInComponent(index))
             }

@@ -4,6 +4,7 @@ import QtQuick.Layouts
 import CalorieKit
 
 // Renders a TabBarController: the selected tab's navigation stack over a bar of tab buttons.
+// The other tabs' stacks are hidden; as it appears, the selected tab's top screen gets the keyboard.
 Rectangle {
     id: root
     property TabBarController controller
@@ -13,15 +14,18 @@ Rectangle {
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: bar.top }
         currentIndex: root.controller.selectedIndex
         Repeater {
+            id: tabs
             model: root.controller.viewControllers
             // A tab's screens are drawn from its first visit on, not all at start-up.
             Loader {
                 id: tab
                 required property var modelData
                 required property int index
+                readonly property bool selected: index === root.controller.selectedIndex
                 property bool visited: false
-                active: visited || index === root.controller.selectedIndex
-                onLoaded: visited = true
+                active: visited
+                onSelectedChanged: if (selected) visited = true
+                Component.onCompleted: visited = selected
                 sourceComponent: KitNavigationView { nav: tab.modelData }
             }
         }
@@ -36,6 +40,8 @@ Rectangle {
         Rectangle { width: parent.width; height: 1; color: Theme.barLine }
         Row {
             anchors.fill: parent
+            Accessible.role: Accessible.PageTabList
+            Accessible.ignored: !visible || !enabled
             Repeater {
                 model: root.controller.viewControllers
                 Item {
@@ -63,13 +69,28 @@ Rectangle {
                         font.family: Theme.fontFamily
                         font.pixelSize: 10
                     }
-                    MouseArea { anchors.fill: parent; onClicked: root.controller.selectedIndex = tab.index }
+                    MouseArea { anchors.fill: parent; onClicked: tab.select() }
+                    KitFocusRing { anchors.margins: 2 }
+                    activeFocusOnTab: true
+                    Keys.onPressed: event => {
+                        if (![Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter].includes(event.key)) return
+                        event.accepted = true
+                        tab.select()
+                    }
+                    function select() { if (visible && enabled) root.controller.selectedIndex = index }
+
                     Accessible.role: Accessible.PageTab
                     Accessible.name: modelData.tabBarItem.title
                     Accessible.selected: selected
-                    Accessible.onPressAction: root.controller.selectedIndex = index
+                    Accessible.ignored: !visible || !enabled
+                    Accessible.onPressAction: select()
                 }
             }
         }
     }
+
+    Component.onCompleted: Qt.callLater(() => {
+        const selected = tabs.itemAt(root.controller.selectedIndex)
+        if (selected && selected.item) selected.item.focusTop()
+    })
 }

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Controls.Basic as Controls
 import CalorieKit
 
-// Renders a TextField; its text flows back into the model on every edit. The control is named
+// Renders a TextField; its text flows back into the model on every edit. While the model is the
+// first responder the field has the keyboard, so typing goes in at once. The control is named
 // by its module: CalorieKit's TextField is the model type.
 Controls.TextField {
     id: root
@@ -20,5 +21,6 @@ Controls.TextField {
     }
     Component.onCompleted: if (model.firstResponder) forceActiveFocus()
     Accessible.name: model.placeholder
+    Accessible.ignored: !visible || !enabled
     FrameBinding { item: root; model: root.model }
 }

@@ -3,11 +3,16 @@ import CalorieKit
 
 // The application window: a tiled background, the root navigation stack, the tab interface
 // placed over everything, what is presented over that, and the launch image while launching.
+// Only the top layer is live: the tab interface hides what it covers, and while a modal shows,
+// everything beneath it takes no input and leaves the accessibility tree. When the last modal
+// goes, the keyboard returns to where it was.
 Window {
     id: window
     property WindowModel model
     property string launchImage
     property bool launching: true
+    readonly property bool modal: presented.count > 0
+    property Item focusBeforeModal: null
 
     color: "#F7F5F2"
 
@@ -17,20 +22,34 @@ Window {
         source: Theme.imageUrl(window.model ? window.model.backgroundPatternImage : "")
     }
     KitNavigationView {
+        id: rootStack
         anchors.fill: parent
         nav: window.model ? window.model.rootViewController : null
-        visible: !!nav
+        visible: !!nav && tabViews.count === 0
+        enabled: !window.modal
+        onNavChanged: Qt.callLater(focusTop)
     }
     Repeater {
+        id: tabViews
         model: window.model ? window.model.subviews : []
-        KitTabBarView { required property var modelData; anchors.fill: parent; controller: modelData }
+        KitTabBarView {
+            required property var modelData
+            required property int index
+            anchors.fill: parent
+            controller: modelData
+            visible: index === tabViews.count - 1
+            enabled: !window.modal
+        }
     }
     Repeater {
+        id: presented
         model: window.model ? window.model.presented : []
         Loader {
             required property var modelData
+            required property int index
             anchors.fill: parent
             z: 10
+            enabled: index === presented.count - 1
             source: "Kit" + modelData.kind + ".qml"
             onLoaded: item.model = modelData
         }
@@ -46,4 +65,13 @@ Window {
         visible: window.launching
         source: Theme.imageUrl(window.launchImage)
     }
+
+    // The window takes the keyboard as it appears, so that its first screen has it.
+    onVisibleChanged: if (visible) requestActivate()
+    // Remembered only while no modal shows: disabling the layers beneath moves the focus away.
+    onActiveFocusItemChanged: if (!modal && activeFocusItem) focusBeforeModal = activeFocusItem
+    onModalChanged: if (!modal) Qt.callLater(() => {
+        if (focusBeforeModal && focusBeforeModal.visible && focusBeforeModal.enabled)
+            focusBeforeModal.forceActiveFocus()
+    })
 }

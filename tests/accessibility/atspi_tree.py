@@ -1,0 +1,87 @@
+"""The running app's accessibility tree as a screen reader reaches it over AT-SPI: found by
+name and role, operated by its actions and values, typed into with key events. Every wait polls
+with a generous deadline: the machine running the checks may be busy."""
+import sys
+import time
+
+import pyatspi
+
+
+class Failure(Exception):
+    pass
+
+
+def run(check):
+    """Runs a check: its Failure is the test's failure, with what went wrong."""
+    try:
+        check()
+    except Failure as failure:
+        print("FAIL:", failure)
+        sys.exit(1)
+
+
+def find_app(name, timeout=60):
+    deadline = time.time() + timeout
+    while time.time() < deadline:
+        for app in pyatspi.Registry.getDesktop(0):
+            if app is not None and app.name == name:
+                return app
+        time.sleep(0.2)
+    raise Failure("the app is not on the accessibility bus")
+
+
+def walk(node, depth=0):
+    if node is None or depth > 60:
+        return
+    yield node
+    for child in node:
+        yield from walk(child, depth + 1)
+
+
+def find(node, predicate):
+    return next((n for n in walk(node) if predicate(n)), None)
+
+
+def named(name, role=None):
+    return lambda n: n.name == name and (role is None or n.getRole() == role)
+
+
+def of_role(role):
+    return lambda n: n.getRole() == role
+
+
+def has_state(node, state):
+    return node.getState().contains(state)
+
+
+def wait_until(condition, what, timeout=30):
+    deadline = time.time() + timeout
+    while time.time() < deadline:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.1)
+    raise Failure(what)
+
+
+def wait_for(app, predicate, what, timeout=30):
+    return wait_until(lambda: find(app, predicate), what, timeout)
+
+
+def act(node, *names):
+    """Does the first of the node's actions called one of names (case aside)."""
+    actions = node.queryAction()
+    wanted = [name.lower() for name in names]
+    for i in range(actions.nActions):
+        if actions.getName(i).lower() in wanted:
+            actions.doAction(i)
+            return
+    raise Failure("%r offers none of the actions %s" % (node.name, names))
+
+
+def press(app, name, role=pyatspi.ROLE_PUSH_BUTTON):
+    act(wait_for(app, named(name, role), "no %s named %r" % (role, name)), "press")
+
+
+def type_text(text):
+    pyatspi.Registry.generateKeyboardEvent(0, text, pyatspi.KEY_STRING)
