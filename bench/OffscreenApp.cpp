@@ -7,25 +7,24 @@
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
-#include <memory>
 #include <string>
 
 #include "ui/Kit.h"
 
 void ensureGuiApplication() {
-    static std::unique_ptr<QGuiApplication> app = [] {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        // A frame follows a change at once instead of after the platform's pause between
-        // updates (5 ms where there is no vertical sync), so a frame's time is its work.
-        setenv("QT_QPA_UPDATE_IDLE_TIME", "0", 1);
-        static int argc = 1;
-        static char name[] = "calorie-bench";
-        static char* argv[] = {name, nullptr};
-        auto created = std::make_unique<QGuiApplication>(argc, argv);
-        QQuickStyle::setStyle("Basic");
-        registerKitTypes();
-        return created;
-    }();
+    if (QCoreApplication::instance()) return;
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    // A frame follows a change at once instead of after the platform's pause between updates
+    // (5 ms where there is no vertical sync), so a frame's time is its work.
+    setenv("QT_QPA_UPDATE_IDLE_TIME", "0", 1);
+    static int argc = 1;
+    static char name[] = "calorie-bench";
+    static char* argv[] = {name, nullptr};
+    // Never deleted: a static one would go among the exit handlers, after Qt's own process-wide
+    // caches, and crash on its way out.
+    new QGuiApplication(argc, argv);
+    QQuickStyle::setStyle("Basic");
+    registerKitTypes();
 }
 
 std::filesystem::path plannedDataFolder(const char* name) {

@@ -36,7 +36,7 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
 
 bool RatioReporter::printRatios() const {
     bool allMet = true;
-    std::printf("\n%-28s %-28s %9s %8s\n", "measured", "floor", "ratio", "target");
+    std::printf("\n%-32s %-32s %9s %8s\n", "measured", "floor", "ratio", "target");
     for (const Comparison& c : comparisons()) {
         const auto measured = medians_.find(c.measured);
         const auto floor = medians_.find(c.floor);
@@ -49,7 +49,7 @@ bool RatioReporter::printRatios() const {
         const auto named = [](const std::string& name, const std::string& counter) {
             return counter.empty() ? name : name + " " + counter;
         };
-        std::printf("%-28s %-28s %9.3f %8.2f %s\n", named(c.measured, c.measuredCounter).c_str(),
+        std::printf("%-32s %-32s %9.3f %8.2f %s\n", named(c.measured, c.measuredCounter).c_str(),
                     named(c.floor, c.floorCounter).c_str(), ratio, c.target,
                     c.target <= 0 ? "(no target)" : met ? "ok" : "MISSED");
     }
@@ -60,7 +60,7 @@ bool RatioReporter::printRatios() const {
         const bool met = value >= 0 && value <= l.most;
         allMet = allMet && met;
         const std::string what = l.counter.empty() ? "time" : l.counter;
-        std::printf("%-28s %-28s %9.1f %8.0f %s %s\n", l.benchmark.c_str(), what.c_str(), value,
+        std::printf("%-32s %-32s %9.3g %8.4g %s %s\n", l.benchmark.c_str(), what.c_str(), value,
                     l.most, l.unit.c_str(), met ? "ok" : "MISSED");
     }
     return allMet;

@@ -1,7 +1,5 @@
 #include "ui/ObjectListModel.h"
 
-#include <QMetaObject>
-
 int ObjectListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : count();
 }

@@ -26,7 +26,6 @@ public:
 
     int count() const { return int(objects_.size()); }
     const QList<QObject*>& objects() const { return objects_; }
-    Q_INVOKABLE QObject* at(int row) const { return objects_.value(row); }
 
     void append(QObject* object);
     // Returns false, announcing nothing, when the object is not in the list.

@@ -62,7 +62,14 @@ Item {
         onItemAdded: Qt.callLater(root.flatten)
         onItemRemoved: (index, item) => { if (item.parent === holder) root.generation++ }
     }
-    onVisibleChanged: Qt.callLater(flatten)
+    onVisibleChanged: {
+        // A grab may never finish while hidden: it is begun again once shown.
+        if (!visible && flattening) {
+            generation++
+            flattening = false
+        }
+        Qt.callLater(flatten)
+    }
 
     function flatten() {
         if (flattening || !visible || renderers.count <= flattenAbove) return
