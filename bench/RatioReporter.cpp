@@ -13,6 +13,12 @@ std::vector<Limit>& limits() {
 }
 }  // namespace
 
+double RatioReporter::Median::value(const std::string& counter) const {
+    if (counter.empty()) return realMs;
+    const auto found = counters.find(counter);
+    return found == counters.end() ? -1 : found->second;
+}
+
 void compare(Comparison comparison) { comparisons().push_back(std::move(comparison)); }
 void limit(Limit l) { limits().push_back(std::move(l)); }
 
@@ -30,29 +36,31 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
 
 bool RatioReporter::printRatios() const {
     bool allMet = true;
-    std::printf("\n%-28s %-28s %9s %8s\n", "measured", "floor", "ratio", "target");
+    std::printf("\n%-32s %-32s %9s %8s\n", "measured", "floor", "ratio", "target");
     for (const Comparison& c : comparisons()) {
         const auto measured = medians_.find(c.measured);
         const auto floor = medians_.find(c.floor);
-        if (measured == medians_.end() || floor == medians_.end() || floor->second.realMs <= 0)
-            continue;
-        const double ratio = measured->second.realMs / floor->second.realMs;
+        if (measured == medians_.end() || floor == medians_.end()) continue;
+        const double floorValue = floor->second.value(c.floorCounter);
+        if (floorValue <= 0) continue;
+        const double ratio = measured->second.value(c.measuredCounter) / floorValue;
         const bool met = c.target <= 0 || ratio <= c.target;
         allMet = allMet && met;
-        std::printf("%-28s %-28s %9.3f %8.2f %s\n", c.measured.c_str(), c.floor.c_str(), ratio,
-                    c.target, c.target <= 0 ? "(no target)" : met ? "ok" : "MISSED");
+        const auto named = [](const std::string& name, const std::string& counter) {
+            return counter.empty() ? name : name + " " + counter;
+        };
+        std::printf("%-32s %-32s %9.3f %8.2f %s\n", named(c.measured, c.measuredCounter).c_str(),
+                    named(c.floor, c.floorCounter).c_str(), ratio, c.target,
+                    c.target <= 0 ? "(no target)" : met ? "ok" : "MISSED");
     }
     for (const Limit& l : limits()) {
         const auto found = medians_.find(l.benchmark);
         if (found == medians_.end()) continue;
-        const auto counter = found->second.counters.find(l.counter);
-        const double value = l.counter.empty() ? found->second.realMs
-                             : counter != found->second.counters.end() ? counter->second
-                                                                       : -1;
+        const double value = found->second.value(l.counter);
         const bool met = value >= 0 && value <= l.most;
         allMet = allMet && met;
         const std::string what = l.counter.empty() ? "time" : l.counter;
-        std::printf("%-28s %-28s %9.1f %8.0f %s %s\n", l.benchmark.c_str(), what.c_str(), value,
+        std::printf("%-32s %-32s %9.3g %8.4g %s %s\n", l.benchmark.c_str(), what.c_str(), value,
                     l.most, l.unit.c_str(), met ? "ok" : "MISSED");
     }
     return allMet;

@@ -13,6 +13,10 @@ struct Comparison {
     std::string measured;  // benchmark name, e.g. "BM_StoreInserts"
     std::string floor;     // e.g. "BM_BareSqliteInserts"
     double target;         // the largest acceptable ratio; 0: printed for information only
+    // User counters compared instead of the real times, e.g. a series' last calls against its
+    // first ones in the same benchmark.
+    std::string measuredCounter = {};
+    std::string floorCounter = {};
 };
 
 struct Limit {
@@ -36,6 +40,8 @@ private:
     struct Median {
         double realMs = 0;
         std::map<std::string, double> counters;
+        // The real time for "", a counter's value otherwise; negative when there is none.
+        double value(const std::string& counter) const;
     };
     std::map<std::string, Median> medians_;  // by base benchmark name
 };

@@ -1,16 +1,15 @@
 // Process start to the first frame of the tab interface (the launch hold set to 0), and the
 // resident memory then, against a bare Qt Quick window started the same way.
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
+#include "OffscreenApp.h"
 #include "RatioReporter.h"
 
 namespace {
@@ -23,29 +22,6 @@ long long monotonicNanoseconds() {
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
     return static_cast<long long>(now.tv_sec) * 1000000000LL + now.tv_nsec;
-}
-
-// A data folder as after set-up: a plan that started 10 days ago, with its 366 days.
-fs::path plannedDataFolder() {
-    const fs::path folder = fs::temp_directory_path() / "calorie-bench-startup";
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    std::ofstream(folder / "defaults.ini") << "[General]\nfirstTime=no\n";
-    const fs::path db = folder / "food.db";
-    fs::copy_file(binFolder() / "food.db", db);
-    fs::permissions(db, fs::perms::owner_write, fs::perm_options::add);
-    sqlite3* handle = nullptr;
-    sqlite3_open(db.c_str(), &handle);
-    const time_t start = time(nullptr) - 10 * 86400;
-    char when[64];
-    strftime(when, sizeof when, "%Y-%m-%d %H:%M:%S +0000", gmtime(&start));
-    std::string sql = "BEGIN; UPDATE profileData SET calorieBudget='1850', startingDate='" +
-                      std::string(when) + "' WHERE id=2;";
-    for (int day = 0; day < 366; ++day)
-        sql += "INSERT INTO dailyData VALUES (" + std::to_string(day) + ", 'Day', 0, 0);";
-    sqlite3_exec(handle, (sql + "COMMIT;").c_str(), nullptr, nullptr, nullptr);
-    sqlite3_close(handle);
-    return folder;
 }
 
 struct Startup {
@@ -107,7 +83,7 @@ void BM_QuickWindowStartup(benchmark::State& state) {
 }
 
 void BM_AppStartup(benchmark::State& state) {
-    const fs::path data = plannedDataFolder();
+    const fs::path data = plannedDataFolder("calorie-bench-startup");
     measure(state, binFolder() / "calorie-counter",
             {"--data-dir", data.string(), "--launch-hold-ms", "0", "--report-startup"});
 }

@@ -7,6 +7,7 @@
 #include "ui/Button.h"
 #include "ui/ImageView.h"
 #include "ui/Label.h"
+#include "ui/LiveRowsModel.h"
 #include "ui/NavigationController.h"
 #include "ui/ScrollView.h"
 #include "ui/TabBarController.h"
@@ -40,4 +41,6 @@ void registerKitTypes() {
     qmlRegisterType<PickerView>(uri, 1, 0, "PickerView");
     qmlRegisterType<DatePicker>(uri, 1, 0, "DatePicker");
     qmlRegisterType<ShapeLayer>(uri, 1, 0, "ShapeLayer");
+    qmlRegisterUncreatableType<ObjectListModel>(uri, 1, 0, "ObjectListModel", fromCode);
+    qmlRegisterType<LiveRowsModel>(uri, 1, 0, "LiveRowsModel");
 }

@@ -5,7 +5,9 @@
 #include <QObject>
 #include <QRectF>
 #include <QtQml/qqmlregistration.h>
+#include <memory>
 
+#include "ui/ObjectListModel.h"
 #include "ui/Property.h"
 
 class View : public QObject {
@@ -13,23 +15,21 @@ class View : public QObject {
     KIT_PROPERTY(QRectF, frame, setFrame);
     KIT_PROPERTY(bool, hidden, setHidden);
     KIT_PROPERTY(int, tag, setTag);
-    Q_PROPERTY(QList<QObject*> subviews READ subviews NOTIFY subviewsChanged)
-    // The class name; a renderer loads "Kit" + kind + ".qml" for views added by code.
-    Q_PROPERTY(QString kind READ kind CONSTANT)
+    // One renderer per subview, made or destroyed as each is added or removed.
+    Q_PROPERTY(ObjectListModel* subviews READ subviewModel CONSTANT)
 
 public:
     explicit View(QObject* parent = nullptr) : QObject(parent) {}
 
-    QString kind() const { return QString::fromLatin1(metaObject()->className()); }
-    QList<QObject*> subviews() const { return subviews_; }
+    const QList<QObject*>& subviews() const;
+    // Made on first use: most views never hold subviews.
+    ObjectListModel* subviewModel();
     // Takes ownership; views and layers are drawn in the order they were added.
     void addSubview(QObject* view);
     // Removes and deletes: the view is gone for good, as a layer removed from its parent is.
     void removeSubview(QObject* view);
 
-signals:
-    void subviewsChanged();
-
 private:
-    QList<QObject*> subviews_;
+    // Not a child: it goes before the subviews do, so no renderer is left with a deleted view.
+    std::unique_ptr<ObjectListModel> subviews_;
 };

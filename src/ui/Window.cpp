@@ -13,16 +13,12 @@ void Window::setRootViewController(NavigationController* root) {
 void Window::addSubview(TabBarController* tabs) {
     tabs->setParent(this);
     subviews_.append(tabs);
-    emit subviewsChanged();
     tabs->setVisible(true);
 }
 
 void Window::present(QObject* modal) {
-    presented_.removeOne(modal);
+    presented_.remove(modal);  // shown again: to the front
     presented_.append(modal);
-    emit presentedChanged();
 }
 
-void Window::dismiss(QObject* modal) {
-    if (presented_.removeOne(modal)) emit presentedChanged();
-}
+void Window::dismiss(QObject* modal) { presented_.remove(modal); }

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include "ui/NavigationController.h"
+#include "ui/ObjectListModel.h"
 #include "ui/Property.h"
 
 class TabBarController;
@@ -13,8 +14,8 @@ class TabBarController;
 class Window : public QObject {
     Q_OBJECT
     Q_PROPERTY(NavigationController* rootViewController READ rootViewController NOTIFY rootViewControllerChanged)
-    Q_PROPERTY(QList<QObject*> subviews READ subviews NOTIFY subviewsChanged)
-    Q_PROPERTY(QList<QObject*> presented READ presented NOTIFY presentedChanged)
+    Q_PROPERTY(ObjectListModel* subviews READ subviewModel CONSTANT)
+    Q_PROPERTY(ObjectListModel* presented READ presentedModel CONSTANT)
     // Tiled behind everything: "bg" on a phone, "bgiPad" on a pad.
     KIT_PROPERTY(QString, backgroundPatternImage, setBackgroundPatternImage);
     // Drawn over everything, presented modals included: the status overlay (not owned).
@@ -27,21 +28,22 @@ public:
     // Takes ownership; the controller is shown at once.
     void setRootViewController(NavigationController* root);
 
-    QList<QObject*> subviews() const { return subviews_; }
+    const QList<QObject*>& subviews() const { return subviews_.objects(); }
+    ObjectListModel* subviewModel() { return &subviews_; }
     // Puts the tab interface over everything the window shows; takes ownership.
     void addSubview(TabBarController* tabs);
 
-    QList<QObject*> presented() const { return presented_; }
+    // Not owned; the last presented is in front.
+    const QList<QObject*>& presented() const { return presented_.objects(); }
+    ObjectListModel* presentedModel() { return &presented_; }
     void present(QObject* modal);
     void dismiss(QObject* modal);
 
 signals:
     void rootViewControllerChanged();
-    void subviewsChanged();
-    void presentedChanged();
 
 private:
     NavigationController* root_ = nullptr;
-    QList<QObject*> subviews_;
-    QList<QObject*> presented_;
+    ObjectListModel subviews_;
+    ObjectListModel presented_;
 };

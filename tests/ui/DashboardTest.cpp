@@ -103,6 +103,24 @@ TEST_P(Dashboard, ADayUpdateShowsTheOverlayAndTodayDismissesIt) {
     EXPECT_TRUE(settledHidden());
 }
 
+// A day of switching tabs piles a budget line and label pair up on every appearance of either
+// view; all but the newest few are drawn as one picture, which a screen reader does not read.
+TEST_P(Dashboard, AppearancesPileUpBudgetLinesThatReadOnce) {
+    TabBarController* tabs = AppState::shared().tabBarController;
+    for (int i = 0; i < 30; ++i) {
+        tabs->setSelectedIndex(3);
+        app.settle(10);
+        tabs->setSelectedIndex(0);
+        app.settle(10);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.findByName("Budget", 8); }, 10000));
+    EXPECT_NE(app.findByName("Budget"), nullptr);
+    app.saveScreenshot(idiom() + "-today-after-30");
+    ASSERT_TRUE(app.click("Log"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.findByName("Budget", 8); }, 10000));
+    app.saveScreenshot(idiom() + "-log-after-30");
+}
+
 INSTANTIATE_TEST_SUITE_P(Idioms, Dashboard, testing::Values(false, true),
                          [](const auto& info) { return info.param ? "Pad" : "Phone"; });
 
