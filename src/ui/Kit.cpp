@@ -16,6 +16,8 @@
 #include "ui/PickerView.h"
 #include "ui/DatePicker.h"
 #include "ui/ShapeLayer.h"
+#include "ui/TextLayer.h"
+#include "ui/LayerList.h"
 
 void registerKitTypes() {
     constexpr const char* uri = "CalorieKit";
@@ -40,4 +42,6 @@ void registerKitTypes() {
     qmlRegisterType<PickerView>(uri, 1, 0, "PickerView");
     qmlRegisterType<DatePicker>(uri, 1, 0, "DatePicker");
     qmlRegisterType<ShapeLayer>(uri, 1, 0, "ShapeLayer");
+    qmlRegisterType<TextLayer>(uri, 1, 0, "TextLayer");
+    qmlRegisterUncreatableType<LayerList>(uri, 1, 0, "LayerList", fromCode);
 }
