@@ -1,0 +1,61 @@
+import QtQuick
+import "qrc:/ui"
+
+// Renders a SectionIndexBar: its layers, and touches going down on it or dragging over it (also
+// above or below it, which the bar maps back onto its letters). The letters are what assistive
+// technology sees, each a button whose press is a touch on it; from the keyboard the bar takes
+// focus, the arrows move between letters and Space or Return presses the one shown.
+Item {
+    id: root
+    property QtObject model
+    property int current: 0  // the letter the keyboard is on
+
+    visible: !!model && !model.hidden
+    activeFocusOnTab: true
+    onWidthChanged: report()
+    onHeightChanged: report()
+    Component.onCompleted: report()
+    function report() { if (model) model.setLaidOutSize(Qt.size(width, height)) }
+
+    KitLayers { layers: root.model ? root.model.sublayers : null }
+
+    MouseArea {
+        anchors.fill: parent
+        preventStealing: true  // a drag down the letters is not the list's scroll
+        onPressed: mouse => root.model.touchesBegan(Qt.point(mouse.x, mouse.y))
+        onPositionChanged: mouse => root.model.touchesMoved(Qt.point(mouse.x, mouse.y))
+    }
+
+    Repeater {
+        model: root.model && root.model.letterHeight > 0 ? root.model.letters : []
+        Item {
+            required property string modelData
+            required property int index
+            y: index * root.model.letterHeight
+            width: root.width
+            height: root.model.letterHeight
+            Accessible.role: Accessible.Button
+            Accessible.name: modelData
+            Accessible.focused: root.activeFocus && root.current === index
+            Accessible.onPressAction: root.model.pressLetter(index)
+        }
+    }
+    Rectangle {
+        visible: root.activeFocus && root.model && root.model.letterHeight > 0
+        y: root.current * (root.model ? root.model.letterHeight : 0)
+        width: root.width
+        height: root.model ? root.model.letterHeight : 0
+        color: "transparent"
+        border.color: Theme.tint
+        radius: 3
+    }
+    Keys.onUpPressed: current = Math.max(0, current - 1)
+    Keys.onDownPressed: current = Math.min(model.letters.length - 1, current + 1)
+    Keys.onSpacePressed: model.pressLetter(current)
+    Keys.onReturnPressed: model.pressLetter(current)
+
+    Accessible.role: Accessible.List
+    Accessible.name: "Section index"
+
+    FrameBinding { item: root; model: root.model }
+}
