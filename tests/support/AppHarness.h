@@ -55,6 +55,11 @@ public:
     void type(const QString& text);
     // Drags vertically from a window point by dy (a wheel turn).
     void drag(QPointF from, qreal dy);
+    // Flicks the wheel now showing title by about rows (positive: on to later titles) and waits
+    // until it has come to rest, as the choice is made only then; false if it is absent or still
+    // turning after ten seconds.
+    bool turn(const QString& title, int rows);
+    bool turn(QQuickItem* wheel, int rows);
 
     QImage grab();
     // Saves under the build folder's screenshots/; returns the path.

@@ -3,29 +3,11 @@
 // wheels, press the birthday button. Every step is saved as a screenshot.
 #include <gtest/gtest.h>
 
-#include <QQuickItem>
-
 #include "app/TabBar.h"
 #include "setup/BirthdayScreen.h"
 #include "setup/CalorieBudget.h"
 #include "store/AppState.h"
 #include "support/AppHarness.h"
-
-namespace {
-
-// Flicks the wheel now showing title by about rows (positive: on to later titles) and waits
-// until it has come to rest, as the choice is made only then.
-bool turn(AppHarness& app, const QString& title, int rows) {
-    QQuickItem* wheel = app.findByName(title);
-    if (!wheel) return false;
-    app.drag(wheel->mapToScene(QPointF(wheel->width() / 2, wheel->height() / 2)),
-             -rows * wheel->height() / 5);
-    for (int waited = 0; wheel->property("moving").toBool() && waited < 10000; waited += 100)
-        app.settle(100);
-    return !wheel->property("moving").toBool();
-}
-
-}  // namespace
 
 // The phone walks through in Metric as a man, the pad in Imperial as a woman.
 class Wizard : public testing::TestWithParam<bool> {};
@@ -63,7 +45,7 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
     ASSERT_TRUE(shotAndNext("4-gender"));
 
     // 5: the wheels start on 40 cm, or on 1 foot 0 inches; the label shows what they stop on.
-    ASSERT_TRUE(pad ? turn(app, "1", 3) && turn(app, "0", 2) : turn(app, "40", 3));
+    ASSERT_TRUE(pad ? app.turn("1", 3) && app.turn("0", 2) : app.turn("40", 3));
     EXPECT_TRUE(pad ? state.heightFeet > 1 && state.heightInches > 0 : state.heightCm > 40);
     EXPECT_NE(app.findByName(
                   pad ? QString("%1 Feet %2 inch").arg(state.heightFeet).arg(state.heightInches)
@@ -75,7 +57,7 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
     auto* birthday = qobject_cast<BirthdayScreen*>(top());
     ASSERT_NE(birthday, nullptr);
     const int startYear = birthday->datePicker()->year();
-    ASSERT_TRUE(turn(app, QString::number(startYear), -2));
+    ASSERT_TRUE(app.turn(QString::number(startYear), -2));
     const int year = birthday->datePicker()->year();
     EXPECT_LT(year, startYear);
     ASSERT_TRUE(shotAndNext("6-birthday", "Start my plan"));
