@@ -52,7 +52,7 @@ bool RatioReporter::printRatios() const {
         const bool met = value >= 0 && value <= l.most;
         allMet = allMet && met;
         const std::string what = l.counter.empty() ? "time" : l.counter;
-        std::printf("%-28s %-28s %9.1f %8.0f %s %s\n", l.benchmark.c_str(), what.c_str(), value,
+        std::printf("%-28s %-28s %9.3g %8.3g %s %s\n", l.benchmark.c_str(), what.c_str(), value,
                     l.most, l.unit.c_str(), met ? "ok" : "MISSED");
     }
     return allMet;
