@@ -46,6 +46,7 @@ KitScreen {
                 font.weight: Font.DemiBold
             }
             Caption {
+                visible: layout.screen.item1 !== ""
                 text: layout.screen.item1 + " Cal per hour"
             }
             Item { width: 1; height: 10 * layout.unit }

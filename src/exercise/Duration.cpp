@@ -28,9 +28,9 @@ int64_t total(int64_t hoursShare, int64_t minutesShare) {
                                 static_cast<uint64_t>(minutesShare));
 }
 
-void book(int32_t total, int32_t& burnedValue, int32_t& consumedValue) {
-    burnedValue = wrapping32(int64_t{burnedValue} + total);
-    consumedValue = wrapping32(int64_t{consumedValue} - total);
+void book(int32_t calories, int32_t& burnedValue, int32_t& consumedValue) {
+    burnedValue = wrapping32(int64_t{burnedValue} + calories);
+    consumedValue = wrapping32(int64_t{consumedValue} - calories);
 }
 
 }  // namespace duration

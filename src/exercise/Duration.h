@@ -13,8 +13,8 @@ int64_t minutesCalories(int64_t minutes, int64_t perHour);
 // The shown total of both shares.
 int64_t total(int64_t hoursShare, int64_t minutesShare);
 
-// Books a total burned against the day's values in 32-bit arithmetic: burned goes up by it and
+// Books calories burned against the day's values in 32-bit arithmetic: burned goes up by them and
 // consumed goes down by the same amount.
-void book(int32_t total, int32_t& burnedValue, int32_t& consumedValue);
+void book(int32_t calories, int32_t& burnedValue, int32_t& consumedValue);
 
 }  // namespace duration

@@ -8,6 +8,8 @@ import "qrc:/ui"
 Item {
     id: root
     property QtObject model
+    readonly property real letterHeight: model ? model.letterHeight : 0
+    readonly property var letters: model && letterHeight > 0 ? model.letters : []
     property int current: 0  // the letter the keyboard is on
 
     visible: !!model && !model.hidden
@@ -16,6 +18,7 @@ Item {
     onHeightChanged: report()
     Component.onCompleted: report()
     function report() { if (model) model.setLaidOutSize(Qt.size(width, height)) }
+    function press(letter) { if (model) model.pressLetter(letter) }
 
     KitLayers { layers: root.model ? root.model.sublayers : null }
 
@@ -27,32 +30,32 @@ Item {
     }
 
     Repeater {
-        model: root.model && root.model.letterHeight > 0 ? root.model.letters : []
+        model: root.letters
         Item {
             required property string modelData
             required property int index
-            y: index * root.model.letterHeight
+            y: index * root.letterHeight
             width: root.width
-            height: root.model.letterHeight
+            height: root.letterHeight
             Accessible.role: Accessible.Button
             Accessible.name: modelData
             Accessible.focused: root.activeFocus && root.current === index
-            Accessible.onPressAction: root.model.pressLetter(index)
+            Accessible.onPressAction: root.press(index)
         }
     }
     Rectangle {
-        visible: root.activeFocus && root.model && root.model.letterHeight > 0
-        y: root.current * (root.model ? root.model.letterHeight : 0)
+        visible: root.activeFocus && root.letterHeight > 0
+        y: root.current * root.letterHeight
         width: root.width
-        height: root.model ? root.model.letterHeight : 0
+        height: root.letterHeight
         color: "transparent"
         border.color: Theme.tint
         radius: 3
     }
     Keys.onUpPressed: current = Math.max(0, current - 1)
-    Keys.onDownPressed: current = Math.min(model.letters.length - 1, current + 1)
-    Keys.onSpacePressed: model.pressLetter(current)
-    Keys.onReturnPressed: model.pressLetter(current)
+    Keys.onDownPressed: current = Math.min(letters.length - 1, current + 1)
+    Keys.onSpacePressed: press(current)
+    Keys.onReturnPressed: press(current)
 
     Accessible.role: Accessible.List
     Accessible.name: "Section index"
