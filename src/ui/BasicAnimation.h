@@ -13,6 +13,4 @@ struct BasicAnimation {
     float repeatCount = 0;      // 0 and 1 both play once
     // "linear", "easeIn", "easeOut" or "easeInEaseOut" (empty: linear)
     QString timingFunction;
-
-    bool operator==(const BasicAnimation&) const = default;
 };
