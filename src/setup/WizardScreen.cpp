@@ -2,21 +2,8 @@
 
 #include "ui/AlertView.h"
 #include "ui/Application.h"
-#include "ui/Colors.h"
+#include "ui/BarButton.h"
 #include "ui/Window.h"
-
-namespace {
-
-Button* barButton(const char* title, qreal width) {
-    auto* button = new Button;
-    button->setTitle(title);
-    button->setTitleColor(redColor());
-    button->setFrame(QRectF(0, 0, width, 38));
-    button->setAdjustsImageWhenHighlighted(false);
-    return button;
-}
-
-}  // namespace
 
 void WizardScreen::previousButton() {
     navigationController()->popViewController(true);

@@ -17,6 +17,8 @@
 #include "ui/PickerView.h"
 #include "ui/DatePicker.h"
 #include "ui/ShapeLayer.h"
+#include "ui/TextLayer.h"
+#include "ui/LayerList.h"
 
 void registerKitTypes() {
     constexpr const char* uri = "CalorieKit";
@@ -43,4 +45,6 @@ void registerKitTypes() {
     qmlRegisterType<ShapeLayer>(uri, 1, 0, "ShapeLayer");
     qmlRegisterUncreatableType<ObjectListModel>(uri, 1, 0, "ObjectListModel", fromCode);
     qmlRegisterType<LiveRowsModel>(uri, 1, 0, "LiveRowsModel");
+    qmlRegisterType<TextLayer>(uri, 1, 0, "TextLayer");
+    qmlRegisterUncreatableType<LayerList>(uri, 1, 0, "LayerList", fromCode);
 }

@@ -1,16 +1,20 @@
 #pragma once
-// A shape layer holding one straight line: a stroke from one point to another in its parent's
-// coordinates. Added to a view with View::addSubview and gone for good once removed.
+// A shape layer: a path of straight strokes, each from one point to another, in the layer's own
+// coordinates (its frame's origin in its parent; no frame: the parent's origin). Added to a view
+// with View::addSubview, or to a LayerList, and gone for good once removed from a view.
 
 #include <QColor>
+#include <QLineF>
+#include <QList>
 #include <QPointF>
+#include <QVariantList>
 
 #include "ui/View.h"
 
 class ShapeLayer : public View {
     Q_OBJECT
-    KIT_PROPERTY(QPointF, from, setFrom);
-    KIT_PROPERTY(QPointF, to, setTo);
+    // For the renderer: the path's strokes as pairs of points, start then end.
+    Q_PROPERTY(QVariantList lines READ lines NOTIFY pathChanged)
     KIT_PROPERTY_INIT(QColor, strokeColor, setStrokeColor, Qt::black);
     KIT_PROPERTY_INIT(qreal, lineWidth, setLineWidth, 1);
     KIT_PROPERTY_INIT(QColor, fillColor, setFillColor, Qt::transparent);
@@ -18,8 +22,26 @@ class ShapeLayer : public View {
 public:
     explicit ShapeLayer(QObject* parent = nullptr) : View(parent) {}
 
-    void setLine(QPointF start, QPointF end) {
-        setFrom(start);
-        setTo(end);
+    const QList<QLineF>& path() const { return path_; }
+    void setPath(const QList<QLineF>& path) {
+        path_ = path;
+        emit pathChanged();
     }
+    // A path of one stroke.
+    void setLine(QPointF start, QPointF end) { setPath({QLineF(start, end)}); }
+    // The ends of the first stroke: the whole path when it is one line.
+    QPointF from() const { return path_.isEmpty() ? QPointF() : path_.first().p1(); }
+    QPointF to() const { return path_.isEmpty() ? QPointF() : path_.first().p2(); }
+
+    QVariantList lines() const {
+        QVariantList points;
+        for (const QLineF& line : path_) points << line.p1() << line.p2();
+        return points;
+    }
+
+signals:
+    void pathChanged();
+
+private:
+    QList<QLineF> path_;
 };

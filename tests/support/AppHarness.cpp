@@ -140,6 +140,15 @@ void AppHarness::scroll(QPointF at, int notches) {
     settle(50);
 }
 
+bool AppHarness::turn(const QString& title, int rows) { return turn(findByName(title), rows); }
+
+bool AppHarness::turn(QQuickItem* wheel, int rows) {
+    if (!wheel) return false;
+    drag(wheel->mapToScene(QPointF(wheel->width() / 2, wheel->height() / 2)),
+         -rows * wheel->height() / 5);
+    return QTest::qWaitFor([wheel] { return !wheel->property("moving").toBool(); }, 10000);
+}
+
 QImage AppHarness::grab() { return quickWindow()->grabWindow(); }
 
 QString AppHarness::saveScreenshot(const QString& name) {

@@ -63,6 +63,11 @@ public:
     void drag(QPointF from, qreal dy);
     // Turns the mouse wheel over a window point by notches (positive: towards the user).
     void scroll(QPointF at, int notches);
+    // Flicks the wheel now showing title by about rows (positive: on to later titles) and waits
+    // until it has come to rest, as the choice is made only then; false if it is absent or still
+    // turning after ten seconds.
+    bool turn(const QString& title, int rows);
+    bool turn(QQuickItem* wheel, int rows);
 
     QImage grab();
     // Saves under the build folder's screenshots/; returns the path.

@@ -9,6 +9,7 @@
 #include "app/MoreScreen.h"
 #include "dashboard/LogScreen.h"
 #include "dashboard/TodayScreen.h"
+#include "exercise/BrowseExerciseScreen.h"
 #include "exercise/ExerciseScreen.h"
 #include "food/CustomEntryScreen.h"
 #include "food/SearchFoodScreen.h"
@@ -38,6 +39,7 @@ const std::map<QString, Factory>& screens() {
         {"SearchFoodScreen", make<SearchFoodScreen>()},
         {"CustomEntryScreen", make<CustomEntryScreen>()},
         {"ExerciseScreen", make<ExerciseScreen>()},
+        {"BrowseExerciseScreen", make<BrowseExerciseScreen>()},
         {"MoreScreen", make<MoreScreen>()},
         {"EnterWtScreen", make<EnterWtScreen>()},
         {"GoalWeightScreen", make<GoalWeightScreen>()},

@@ -20,17 +20,6 @@ QPointF centre(const QQuickItem* item) {
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
 }
 
-// Flicks the named wheel by about rows (positive: on to later titles) and waits until it has
-// come to rest, as the choice is made only then.
-bool drag(AppHarness& app, const QString& wheelName, int rows) {
-    QQuickItem* wheel = app.findByName(wheelName);
-    if (!wheel) return false;
-    app.drag(centre(wheel), -rows * wheel->height() / 5);
-    for (int waited = 0; wheel->property("moving").toBool() && waited < 10000; waited += 100)
-        app.settle(100);
-    return !wheel->property("moving").toBool();
-}
-
 QAccessibleInterface* accessible(AppHarness& app, const QString& name) {
     QQuickItem* item = app.findByName(name);
     return item ? QAccessible::queryAccessibleInterface(item) : nullptr;
@@ -101,7 +90,7 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
     // the label shows the row each turn settles on.
     EXPECT_EQ(std::tuple(state.heightCm, state.heightFeet, state.heightInches), std::tuple(0, 0, 0));
     if (pad) {
-        ASSERT_TRUE(drag(app, "Feet", 3) && drag(app, "Inches", 2));
+        ASSERT_TRUE(app.turn("Feet", 3) && app.turn("Inches", 2));
         EXPECT_TRUE(state.heightFeet > 1 && state.heightInches > 0);
     } else {
         ASSERT_TRUE(app.tabTo("Height"));
@@ -121,7 +110,7 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
     ASSERT_NE(birthday, nullptr);
     const int startYear = birthday->datePicker()->year();
     if (pad) {
-        ASSERT_TRUE(drag(app, "Year", -2));
+        ASSERT_TRUE(app.turn("Year", -2));
         const int day = birthday->datePicker()->day();  // a notch of the mouse wheel turns a row
         app.scroll(centre(app.findByName("Day")), day > 1 ? -1 : 1);
         EXPECT_EQ(birthday->datePicker()->day(), day > 1 ? day - 1 : day + 1);

@@ -1,23 +1,35 @@
 import QtQuick
 import CalorieKit
 
-// Renders a ShapeLayer. Its path is one straight line, so it is drawn as a rectangle laid along
-// the line: the stroke with flat ends, clipped and stacked like any other item on every scene
-// graph backend (path nodes are neither on the software one). A line encloses nothing: the fill
+// Renders a ShapeLayer. Its path is straight strokes, so each is drawn as a rectangle laid along
+// its line: the stroke with flat ends, clipped and stacked like any other item on every scene
+// graph backend (path nodes are neither on the software one). Lines enclose nothing: the fill
 // never shows.
-Rectangle {
+Item {
     id: root
     property ShapeLayer model: ShapeLayer {}
-    readonly property real dx: model.to.x - model.from.x
-    readonly property real dy: model.to.y - model.from.y
 
     visible: !model.hidden
-    x: model.from.x
-    y: model.from.y - height / 2
-    width: Math.sqrt(dx * dx + dy * dy)
-    height: model.lineWidth
-    color: model.strokeColor
-    transformOrigin: Item.Left
-    rotation: Math.atan2(dy, dx) * 180 / Math.PI
-    antialiasing: rotation % 90 !== 0
+    x: model.frame.x
+    y: model.frame.y
+
+    Repeater {
+        model: root.model.lines.length / 2
+        Rectangle {
+            required property int index
+            readonly property point from: root.model.lines[2 * index]
+            readonly property point to: root.model.lines[2 * index + 1]
+            readonly property real dx: to.x - from.x
+            readonly property real dy: to.y - from.y
+
+            x: from.x
+            y: from.y - height / 2
+            width: Math.sqrt(dx * dx + dy * dy)
+            height: root.model.lineWidth
+            color: root.model.strokeColor
+            transformOrigin: Item.Left
+            rotation: Math.atan2(dy, dx) * 180 / Math.PI
+            antialiasing: rotation % 90 !== 0
+        }
+    }
 }

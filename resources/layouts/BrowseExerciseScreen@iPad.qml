@@ -1,0 +1,3 @@
+import QtQuick
+
+BrowseExerciseScreen { pad: true }

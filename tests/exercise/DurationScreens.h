@@ -1,0 +1,21 @@
+#pragma once
+// The duration screen pushed as the exercise list pushes it, on a tab of the running app.
+
+#include "exercise/BrowseExerciseScreen.h"
+#include "store/AppState.h"
+#include "ui/TabBarController.h"
+
+inline NavigationController* tab(int index) {
+    return AppState::shared().tabBarController->viewControllers()[index];
+}
+
+// Selects the tab first, as a person is on it when choosing an activity.
+inline BrowseExerciseScreen* pushDuration(int tabIndex, const QString& name, const QString& perHour,
+                                          bool animated = false) {
+    AppState::shared().tabBarController->setSelectedIndex(tabIndex);
+    auto* screen = new BrowseExerciseScreen(layoutFor("BrowseExerciseScreen"));
+    screen->setItem(name);
+    screen->setItem1(perHour);
+    tab(tabIndex)->pushViewController(screen, animated);
+    return screen;
+}

@@ -1,0 +1,47 @@
+// The index bar's arithmetic: cells and font, the letter under a touch, the section it gives.
+#include <gtest/gtest.h>
+
+#include "exercise/IndexBarMapping.h"
+
+using namespace indexbar;
+
+TEST(IndexBar, CellsAndFontSize) {
+    EXPECT_DOUBLE_EQ(letterHeight(270), 10);
+    EXPECT_EQ(fontSize(letterHeight(270)), 11);
+    EXPECT_DOUBLE_EQ(letterHeight(378), 14);
+    EXPECT_EQ(fontSize(letterHeight(378)), 12);
+    EXPECT_EQ(fontSize(13.99), 11);
+}
+
+TEST(IndexBar, LetterUnderATouch) {
+    const struct {
+        double y, letterHeight;
+        int letter;
+    } cases[] = {
+        {0, 10, 0},
+        {9.99, 10, 0},
+        {10, 10, 1},
+        {55, 10, 5},
+        {-55, 10, 5},           // above the bar mirrors into it
+        {29.999999999, 10, 3},  // the quotient rounds to 3.0f first
+        {29.99, 10, 2},         // a float can tell this one apart
+        {269.9, 10, 26},        // the last cell,
+        {270, 10, 26},          // and everything below it
+        {5000, 10, 26},
+        {-5000, 10, 26},
+        {0, 0, 26},    // no height yet: 0 / 0,
+        {12, 0, 26},   // and y / 0
+        {12, -10, 0},  // nor a negative one
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(letterAt(c.y, c.letterHeight), c.letter) << c.y << " / " << c.letterHeight;
+}
+
+// The catalogue's letters are the bar's own test; here the walk's corners.
+TEST(IndexBar, LetterToSectionWalksBackToTheFirstEqualTitle) {
+    EXPECT_EQ(sectionForLetter(3, {"A", "C", "C"}), 1);  // "C": the first of two
+    EXPECT_EQ(sectionForLetter(2, {"A", "C"}), 0);       // "B" falls back to "A"
+    EXPECT_EQ(sectionForLetter(1, {"#", "B"}), 0);       // "A" falls back to "#"
+    EXPECT_EQ(sectionForLetter(1, {"B", "C"}), kNotFound);
+    for (int n = 0; n < 27; ++n) EXPECT_EQ(sectionForLetter(n, {}), kNotFound);
+}
