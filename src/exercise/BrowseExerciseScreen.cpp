@@ -113,3 +113,8 @@ void BrowseExerciseScreen::DoneButton() {
 void BrowseExerciseScreen::CancelButton() {
     if (NavigationController* nav = navigationController()) nav->popViewController(true);
 }
+
+QString BrowseExerciseScreen::pickerViewAccessibilityLabelForComponent(int64_t component) {
+    static const char* const names[] = {"Hours", "Hours unit", "Minutes", "Minutes unit"};
+    return component >= 0 && component < 4 ? names[component] : QString();
+}

@@ -38,6 +38,7 @@ public:
     int64_t pickerViewNumberOfRowsInComponent(int64_t component) override;
     QString pickerViewTitleForRowForComponent(int64_t row, int64_t component) override;
     void pickerViewDidSelectRowInComponent(int64_t row, int64_t component) override;
+    QString pickerViewAccessibilityLabelForComponent(int64_t component) override;
 
     std::vector<std::string> ih1;  // hours "0" to "23"
     std::vector<std::string> ih2;  // minutes "0" to "59"

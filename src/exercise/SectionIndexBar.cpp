@@ -39,7 +39,11 @@ void SectionIndexBar::layoutSubviews() {
     // Without a size there is nothing to lay out yet; the first size the bar gets will do it.
     const QSizeF bounds = size();
     if (isLayedOut_ || bounds.isEmpty()) return;
-    sublayers_.removeAll();
+    const QList<QObject*> old = sublayers_.objects();
+    sublayers_.clear();
+    for (QObject* layer : old) {
+        if (layer != &shapeLayer_) layer->deleteLater();  // a renderer may hold it a frame longer
+    }
 
     shapeLayer_.setFrame(QRectF(QPointF(0, 0), bounds));
     QList<QLineF> path = {QLineF(0, 0, 0, bounds.height())};
@@ -60,7 +64,7 @@ void SectionIndexBar::layoutSubviews() {
 
 TextLayer* SectionIndexBar::textLayerWithSize(qreal size, const QString& string,
                                               const QRectF& frame) {
-    auto* layer = new TextLayer;
+    auto* layer = new TextLayer(this);
     layer->setFontName(QStringLiteral("ArialMT"));
     layer->setFontSize(size);
     layer->setFrame(frame);
@@ -80,7 +84,7 @@ void SectionIndexBar::sendEventToDelegate(QPointF location) {
 void SectionIndexBar::animateLayerAtIndex(int64_t index) {
     // Only a letter with a layer above it, so never before the first layout.
     if (index < 0 || sublayers_.count() < index + 2) return;
-    auto* layer = qobject_cast<TextLayer*>(sublayers_.at(int(index)));
+    auto* layer = qobject_cast<TextLayer*>(sublayers_.objects().value(int(index)));
     if (!layer) return;
     layer->addAnimation({.keyPath = QStringLiteral("backgroundColor"),
                          .toValue = grey(180),

@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/LayerList.h"
+#include "ui/ObjectListModel.h"
 #include "ui/ShapeLayer.h"
 #include "ui/TextLayer.h"
 #include "ui/View.h"
@@ -32,7 +32,7 @@ protected:
 
 class SectionIndexBar : public View {
     Q_OBJECT
-    Q_PROPERTY(LayerList* sublayers READ sublayers CONSTANT)
+    Q_PROPERTY(ObjectListModel* sublayers READ sublayers CONSTANT)
     Q_PROPERTY(QStringList letters READ letterTitles CONSTANT)
     Q_PROPERTY(qreal letterHeight READ letterHeight NOTIFY laidOut)
 
@@ -47,7 +47,7 @@ public:
     SectionIndexBarDelegate* delegate() const { return delegate_; }
     void setDelegate(SectionIndexBarDelegate* delegate) { delegate_ = delegate; }
 
-    LayerList* sublayers() { return &sublayers_; }
+    ObjectListModel* sublayers() { return &sublayers_; }
     ShapeLayer* shapeLayer() { return &shapeLayer_; }
     double letterHeight() const { return letterHeight_; }
     bool isLayedOut() const { return isLayedOut_; }
@@ -79,7 +79,7 @@ private:
 
     std::vector<std::string> indexes_;
     SectionIndexBarDelegate* delegate_ = nullptr;
-    LayerList sublayers_;
+    ObjectListModel sublayers_;
     ShapeLayer shapeLayer_;
     double letterHeight_ = 0;
     bool isLayedOut_ = false;

@@ -18,7 +18,6 @@
 #include "ui/DatePicker.h"
 #include "ui/ShapeLayer.h"
 #include "ui/TextLayer.h"
-#include "ui/LayerList.h"
 
 void registerKitTypes() {
     constexpr const char* uri = "CalorieKit";
@@ -46,5 +45,4 @@ void registerKitTypes() {
     qmlRegisterUncreatableType<ObjectListModel>(uri, 1, 0, "ObjectListModel", fromCode);
     qmlRegisterType<LiveRowsModel>(uri, 1, 0, "LiveRowsModel");
     qmlRegisterType<TextLayer>(uri, 1, 0, "TextLayer");
-    qmlRegisterUncreatableType<LayerList>(uri, 1, 0, "LayerList", fromCode);
 }

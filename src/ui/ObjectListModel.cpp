@@ -40,3 +40,11 @@ bool ObjectListModel::remove(QObject* object) {
     emit countChanged();
     return true;
 }
+
+void ObjectListModel::clear() {
+    if (objects_.isEmpty()) return;
+    beginRemoveRows({}, 0, count() - 1);
+    objects_.clear();
+    endRemoveRows();
+    emit countChanged();
+}

@@ -30,6 +30,8 @@ public:
     void append(QObject* object);
     // Returns false, announcing nothing, when the object is not in the list.
     bool remove(QObject* object);
+    // Empties the list in one announcement: for a whole that is rebuilt, not for one change.
+    void clear();
 
 signals:
     void countChanged();

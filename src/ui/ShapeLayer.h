@@ -1,7 +1,7 @@
 #pragma once
 // A shape layer: a path of straight strokes, each from one point to another, in the layer's own
 // coordinates (its frame's origin in its parent; no frame: the parent's origin). Added to a view
-// with View::addSubview, or to a LayerList, and gone for good once removed from a view.
+// with View::addSubview, or to a layer list, and gone for good once removed from a view.
 
 #include <QColor>
 #include <QLineF>

@@ -33,7 +33,7 @@ std::vector<std::string> catalogueSections() {
 
 QList<TextLayer*> textLayers(SectionIndexBar& bar) {
     QList<TextLayer*> layers;
-    for (QObject* layer : bar.sublayers()->layers())
+    for (QObject* layer : bar.sublayers()->objects())
         if (auto* text = qobject_cast<TextLayer*>(layer)) layers << text;
     return layers;
 }
@@ -57,7 +57,7 @@ TEST(SectionIndexBar, LaysOutOncePerIndexesAndOnlyWithASize) {
     const QList<TextLayer*> letters = textLayers(bar);
     ASSERT_EQ(letters.size(), 27);
     EXPECT_EQ(bar.sublayers()->count(), 28);
-    EXPECT_EQ(bar.sublayers()->at(27), bar.shapeLayer());
+    EXPECT_EQ(bar.sublayers()->objects().value(27), bar.shapeLayer());
     EXPECT_EQ(bar.letterHeight(), 14);
     QList<QLineF> path = {QLineF(0, 0, 0, 378)};
     for (int i = 0; i < 27; ++i) {

@@ -20,14 +20,6 @@ protected:
         app.launch();
     }
     QString idiom() const { return GetParam() ? "pad" : "phone"; }
-    // The wheel of numbers just left of the one that reads unit ("Hour", "Min").
-    QQuickItem* wheelBefore(const QString& unit) {
-        QQuickItem* label = app.findByName(unit);
-        if (!label) return nullptr;
-        const QList<QQuickItem*> siblings = label->parentItem()->childItems();
-        const qsizetype at = siblings.indexOf(label);
-        return at > 0 ? siblings[at - 1] : nullptr;
-    }
     int selected(BrowseExerciseScreen* screen, int wheel) {
         return screen->selectPicker()->selectedRowInComponent(wheel);
     }
@@ -41,14 +33,17 @@ TEST_P(BrowseExercise, FromTodayTheWheelsBookAndDoneShowsItOnToday) {
     BrowseExerciseScreen* screen = pushDuration(0, "Boxing, in ring", "844", true);
     app.settle();
     for (const char* shown : {"Add Exercise", "Cancel", "Done", "Boxing, in ring", "844",
-                              "844 Cal per hour", "Hour", "Min"})
+                              "844 Cal per hour", "Hours", "Minutes"})
         EXPECT_NE(app.findByName(shown), nullptr) << shown;
+    // The wheels stand where code put them: one hour, no minutes.
+    EXPECT_EQ(app.findByName("Hours")->property("currentIndex").toInt(), 1);
+    EXPECT_EQ(app.findByName("Minutes")->property("currentIndex").toInt(), 0);
 
     // Each wheel that comes to rest books the total it then shows, on top of what went before.
-    ASSERT_TRUE(app.turn(wheelBefore("Hour"), 1));
+    ASSERT_TRUE(app.turn("Hours", 1));
     const int hours = selected(screen, 0);
     ASSERT_NE(hours, 1);
-    ASSERT_TRUE(app.turn(wheelBefore("Min"), 3));
+    ASSERT_TRUE(app.turn("Minutes", 3));
     const int minutes = selected(screen, 2);
     ASSERT_NE(minutes, 0);
     const int total = hours * 844 + minutes * 14;

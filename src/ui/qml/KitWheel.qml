@@ -104,6 +104,8 @@ Item {
     function select(row) {
         tumbler.currentIndex = row
         tumbler.positionViewAtIndex(row, Tumbler.Center)
+        // Before the wheel's first layout, positioning settles the band one row on.
+        tumbler.currentIndex = row
     }
 
     // A user's turn to row (clamped); nothing happens when the wheel cannot move or is covered.
