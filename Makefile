@@ -1,8 +1,11 @@
 # The two commands people need: `make run` and `make test`. Everything installs what it needs.
 # `make run ARGS="--idiom pad"` passes options to the app.
-.PHONY: test run bench deps food-db format clean
+.PHONY: test run bench fuzz fuzz-build deps food-db format clean
 
-test: deps
+# Each fuzzer runs a few seconds over its seeds first, so a reintroduced fault is caught; the
+# main suite comes last, and its summary closes the output.
+test: deps fuzz-build
+	ctest --preset fuzz
 	cmake --preset debug-asan
 	cmake --build --preset debug-asan
 	ctest --preset debug-asan
@@ -17,6 +20,21 @@ bench: deps
 	cmake --build --preset release
 	# Repetitions of a benchmark and its floor interleave, so a busy moment hits both alike.
 	cd build/release/bin && ./calorie-bench --benchmark_enable_random_interleaving=true
+
+# `make fuzz FUZZ_SECONDS=600` fuzzes longer. New inputs go to build/fuzz/fuzz/corpus, crashes to
+# build/fuzz/fuzz/crashes; copy an input worth keeping into fuzz/corpus/ as a seed.
+FUZZ_SECONDS ?= 60
+fuzz: deps fuzz-build
+	@set -e; for name in text_value day_index statements; do \
+		echo "== fuzz_$$name for $(FUZZ_SECONDS) s"; \
+		build/fuzz/bin/fuzz_$$name -max_total_time=$(FUZZ_SECONDS) -timeout=30 -print_final_stats=1 \
+			-artifact_prefix=build/fuzz/fuzz/crashes/$$name- \
+			build/fuzz/fuzz/corpus/$$name fuzz/corpus/$$name; \
+	done
+
+fuzz-build:
+	cmake --preset fuzz
+	cmake --build --preset fuzz
 
 deps:
 	@scripts/install-deps

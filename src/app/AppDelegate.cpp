@@ -27,6 +27,12 @@ QString shippedFolder() {
 
 }  // namespace
 
+QString dataFolderFor(const LaunchOptions& options) {
+    return options.dataDir.isEmpty()
+               ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+               : options.dataDir;
+}
+
 AppDelegate::AppDelegate(const LaunchOptions& options, QObject* parent)
     : QObject(parent), options_(options), store_(AppState::shared()) {
     registerKitTypes();
@@ -52,9 +58,7 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
     showLaunchImage();
     QThread::msleep(static_cast<unsigned long>(options_.launchHoldMs));
 
-    dataFolder_ = options_.dataDir.isEmpty()
-                      ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-                      : options_.dataDir;
+    dataFolder_ = dataFolderFor(options_);
     QDir().mkpath(dataFolder_);
     state.databaseName = "food.db";
     state.databasePath = QDir(dataFolder_).filePath("food.db").toStdString();

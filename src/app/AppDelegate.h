@@ -14,6 +14,9 @@
 
 class QQuickWindow;
 
+// The folder of the working food.db and the user defaults: --data-dir, else the app's data folder.
+QString dataFolderFor(const LaunchOptions& options);
+
 class AppDelegate : public QObject, public ApplicationDelegate {
     Q_OBJECT
 

@@ -4,8 +4,11 @@
 #include <cstdio>
 
 #include "app/AppDelegate.h"
+#include "app/DataFolderLock.h"
+#include "app/EndMessage.h"
 #include "app/StartupReport.h"
 #include "store/DevLog.h"
+#include "store/ProgramEnd.h"
 
 int main(int argc, char** argv) {
     QGuiApplication::setApplicationName("calorie-counter");
@@ -21,6 +24,11 @@ int main(int argc, char** argv) {
     }
     const LaunchOptions& options = *parsed.options;
     devlog::setEnabled(options.log);
+    installEndMessageWindow();
+
+    // Before anything is read or written: a second program on the folder leaves it untouched.
+    const DataFolderLock lock(dataFolderFor(options));
+    if (!lock.refusal().isEmpty()) endProgram(lock.refusal().toStdString());
 
     AppDelegate delegate(options);
     delegate.didFinishLaunchingWithOptions();

@@ -1,7 +1,7 @@
 #include "dashboard/LogScreen.h"
 
 #include "store/AppState.h"
-#include "store/Checked.h"
+#include "store/DayIndex.h"
 #include "store/DevLog.h"
 #include "store/TextValue.h"
 
@@ -53,7 +53,7 @@ void LogScreen::backBtn(Button*) {
 
 void LogScreen::loadDay() {
     AppState& state = AppState::shared();
-    const DayRow& row = checkedAt(state.dailyRows, state.dayIndex, "dailyRows");
+    const DayRow& row = dayRecord(state, state.dayIndex);
     state.burnedValue = intValue(row[3]);
     state.consumedValue = static_cast<int32_t>(integerValue(row[2]));
     dateLbl()->setText(QString::fromStdString(state.dayIndex != state.todayIndex ? row[1]

@@ -7,7 +7,7 @@
 #include "food/SearchFoodScreen.h"
 #include "overlay/StatusOverlay.h"
 #include "store/AppState.h"
-#include "store/Checked.h"
+#include "store/DayIndex.h"
 #include "store/DevLog.h"
 #include "store/TextValue.h"
 #include "ui/Application.h"
@@ -67,7 +67,7 @@ void TodayScreen::viewWillAppear(bool animated) {
     StatusOverlay::dismiss();
     AppState& state = AppState::shared();
     // Always today's row, whichever day the Log tab has chosen.
-    const DayRow& row = checkedAt(state.dailyRows, state.todayIndex, "dailyRows");
+    const DayRow& row = dayRecord(state, state.todayIndex);
     DEVLOG("%d", state.consumedValue);
     DEVLOG("%s", devlog::describe(row).c_str());
     state.consumedValue = static_cast<int32_t>(integerValue(row[2]));

@@ -1,6 +1,11 @@
 #include "store/CalorieStore.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
 
 #include <array>
 #include <system_error>
@@ -11,13 +16,20 @@
 
 namespace {
 
+// How long a statement waits for another connection's lock before it gives up.
+constexpr int kBusyTimeoutMs = 5000;
+
 // A connection that is always closed, also after a failed open. The statements rely on a
 // double-quoted word that names no column being read as a string: switch that on explicitly,
 // since SQLite can be built without it.
 class Connection {
 public:
     explicit Connection(const std::string& path) : ok_(sqlite3_open(path.c_str(), &db_) == 0) {
-        if (ok_) sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DML, 1, nullptr);
+        if (!ok_) return;
+        sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DML, 1, nullptr);
+        // A lock held by another connection (a backup tool, a second reader) is waited out
+        // rather than dropping the write.
+        sqlite3_busy_timeout(db_, kBusyTimeoutMs);
     }
     ~Connection() { sqlite3_close(db_); }
     Connection(const Connection&) = delete;
@@ -54,17 +66,59 @@ private:
     sqlite3_stmt* stmt_ = nullptr;
 };
 
+// Copies from to to (replacing a leftover), writable by its owner, and flushed to disk.
+bool copyWhole(const std::filesystem::path& from, const std::filesystem::path& to) {
+    std::error_code error;
+    if (!std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing,
+                                    error))
+        return false;
+    // The shipped copy may be installed read-only; the working copy must take writes.
+    std::filesystem::permissions(to, std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add, error);
+    const int fd = ::open(to.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return false;
+    const bool synced = ::fsync(fd) == 0;
+    ::close(fd);
+    return synced && !error;
+}
+
+// Never replaces a file that is already there, even one that appeared since it was looked for.
+bool renameNoReplace(const std::filesystem::path& from, const std::filesystem::path& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return true;
+    // File systems without the flag: a hard link fails just as well when the name is taken.
+    if (errno != EINVAL && errno != ENOSYS) return false;
+    if (::link(from.c_str(), to.c_str()) != 0) return false;
+    ::unlink(from.c_str());
+    return true;
+}
+
+// Makes a rename in folder last through a power cut.
+void syncFolder(const std::filesystem::path& folder) {
+    const int fd =
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
 }  // namespace
 
 void CalorieStore::checkAndCreateDatabase(const std::filesystem::path& shippedFolder) {
     std::error_code error;
     if (std::filesystem::exists(state_.databasePath, error)) return;
+    // The copy goes to a name of its own and is renamed into place only once it is whole and on
+    // disk: a start killed or starved of space halfway leaves no partial food.db, which would
+    // never be replaced. The next start overwrites whatever the broken copy left.
     const std::filesystem::path target = state_.databasePath;
-    if (std::filesystem::copy_file(shippedFolder / state_.databaseName, target, error)) {
-        // The shipped copy may be installed read-only; the working copy must take writes.
-        std::filesystem::permissions(target, std::filesystem::perms::owner_write,
-                                     std::filesystem::perm_options::add, error);
+    std::filesystem::path partial = target;
+    partial += ".copying";
+    if (copyWhole(shippedFolder / state_.databaseName, partial) &&
+        renameNoReplace(partial, target)) {
+        syncFolder(target.parent_path());
+        return;
     }
+    std::filesystem::remove(partial, error);
 }
 
 void CalorieStore::UpdateDatabase(const std::string& key, const std::string& value) {

@@ -4,6 +4,8 @@
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
 
+#include <limits>
+
 namespace {
 
 std::function<Instant()>& clockOverride() {
@@ -15,9 +17,16 @@ UDate toUDate(Instant instant) {
     return std::chrono::duration<double, std::milli>(instant.time_since_epoch()).count();
 }
 
-Instant fromUDate(UDate date) {
-    return Instant(std::chrono::duration_cast<Instant::duration>(
-        std::chrono::duration<double, std::milli>(date)));
+// Empty when the instant lies outside what Instant can count (or is not a number): converting
+// such a double to Instant's integer ticks would be undefined.
+std::optional<Instant> fromUDate(UDate date) {
+    using Ticks = std::chrono::duration<double, Instant::period>;
+    const double ticks = Ticks(std::chrono::duration<double, std::milli>(date)).count();
+    // Both limits are powers of two, so these doubles are exact: -2^63 and 2^63.
+    constexpr double lowest = static_cast<double>(std::numeric_limits<Instant::rep>::min());
+    constexpr double beyond = -lowest;
+    if (!(ticks >= lowest && ticks < beyond)) return std::nullopt;
+    return Instant(Instant::duration(static_cast<Instant::rep>(ticks)));
 }
 
 std::string toUtf8(const icu::UnicodeString& text) {
@@ -39,10 +48,15 @@ struct DateFormatter::Impl {
     std::unique_ptr<icu::SimpleDateFormat> format;
 };
 
-DateFormatter::DateFormatter(std::string_view pattern) : impl_(std::make_unique<Impl>()) {
+DateFormatter::DateFormatter(std::string_view pattern, DateLocale locale)
+    : impl_(std::make_unique<Impl>()) {
     UErrorCode status = U_ZERO_ERROR;
-    impl_->format = std::make_unique<icu::SimpleDateFormat>(
-        icu::UnicodeString::fromUTF8(icu::StringPiece(pattern.data(), pattern.size())), status);
+    const auto text =
+        icu::UnicodeString::fromUTF8(icu::StringPiece(pattern.data(), pattern.size()));
+    impl_->format =
+        locale == DateLocale::posix
+            ? std::make_unique<icu::SimpleDateFormat>(text, icu::Locale("en_US_POSIX"), status)
+            : std::make_unique<icu::SimpleDateFormat>(text, status);
     if (U_FAILURE(status)) impl_->format.reset();
 }
 

@@ -19,16 +19,22 @@ public:
     static void set(std::function<Instant()> clock);
 };
 
-// A date pattern ("EEEE MMMM d", "MMMM d,YYYY", ...) bound to the default locale and time zone
+// Whose conventions a formatter follows. Texts shown to the person use the device's; texts the
+// program writes for itself to read back (the start date) use POSIX's, so that they mean the
+// same moment whatever locale the device is set to: Gregorian calendar, Latin digits.
+enum class DateLocale { device, posix };
+
+// A date pattern ("EEEE MMMM d", "MMMM d,YYYY", ...) bound to a locale and the default time zone
 // at the time of construction. Build one per pattern and reuse it: construction is the costly part.
 class DateFormatter {
 public:
-    explicit DateFormatter(std::string_view pattern);
+    explicit DateFormatter(std::string_view pattern, DateLocale locale = DateLocale::device);
     ~DateFormatter();
     DateFormatter(DateFormatter&&) noexcept;
     DateFormatter& operator=(DateFormatter&&) noexcept;
 
     std::string format(Instant instant) const;
+    // Empty unless the whole text is a date that an Instant can hold (about 1678 to 2261).
     std::optional<Instant> parse(std::string_view text) const;
 
 private:

@@ -91,5 +91,5 @@ TEST_F(Log, SteppingOntoAMissingDayEndsTheProgramWithAMessage) {
     AppState& state = AppState::shared();
     state.dailyRows.resize(3);  // more days have passed than the plan has rows
     state.todayIndex = 3;
-    EXPECT_DEATH(screen()->nextBtn(), "dailyRows has no position 3 \\(it holds 3\\)");
+    EXPECT_DEATH(screen()->nextBtn(), "has no day record for today \\(day 4 of a 3-day plan\\)");
 }

@@ -120,5 +120,5 @@ TEST_F(Today, OptionSheetsLeadToTheEntryScreens) {
 
 TEST_F(Today, AnOutOfRangeTodayEndsTheProgramWithAMessage) {
     AppState::shared().todayIndex = 366;
-    EXPECT_DEATH(appearAgain(), "dailyRows has no position 366 \\(it holds 366\\)");
+    EXPECT_DEATH(appearAgain(), "has no day record for today \\(day 367 of a 366-day plan\\)");
 }

@@ -1,7 +1,14 @@
 #include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <thread>
 
 #include "store/AppState.h"
 #include "store/CalorieStore.h"
@@ -172,6 +179,65 @@ TEST_F(CalorieStoreTest, TheShippedFileIsCopiedOnceAndNeverReplaced) {
     store.checkAndCreateDatabase(shipped);
     EXPECT_EQ(column("SELECT calorieBudget FROM profileData WHERE id = 2"),
               std::vector<std::string>{"1850"});
+}
+
+std::string contents(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// A first start that runs out of room (the write fails) or is killed (the signal's default
+// action) halfway through the copy: the file-size limit does either, at the same byte.
+TEST_F(CalorieStoreTest, ACopyCutShortLeavesNoFileAndTheNextStartCopiesItWhole) {
+    const std::filesystem::path shipped = std::filesystem::path(FOOD_DB_PATH).parent_path();
+    ASSERT_GT(std::filesystem::file_size(FOOD_DB_PATH), 256u * 1024);
+    for (const bool killed : {false, true}) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            const rlimit none{0, 0};
+            const rlimit small{256 * 1024, 256 * 1024};
+            setrlimit(RLIMIT_CORE, &none);
+            std::signal(SIGXFSZ, killed ? SIG_DFL : SIG_IGN);
+            setrlimit(RLIMIT_FSIZE, &small);
+            store.checkAndCreateDatabase(shipped);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        if (killed) {
+            ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << status;
+        } else {
+            ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+        }
+        EXPECT_FALSE(std::filesystem::exists(state.databasePath)) << killed;
+    }
+    store.checkAndCreateDatabase(shipped);
+    EXPECT_EQ(contents(state.databasePath), contents(FOOD_DB_PATH));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1);
+}
+
+// Another connection (a second reader, a backup tool) holds the file for a second: the store's
+// write and read wait for it instead of being dropped.
+TEST_F(CalorieStoreTest, WritesAndReadsWaitOutAnotherConnectionsLock) {
+    makeDatabase("INSERT INTO dailyData VALUES (0, 'Sunday November 15', 10, 0);");
+    int consumed = 10;
+    for (const char* hold : {"BEGIN; SELECT count(*) FROM dailyData;", "BEGIN EXCLUSIVE;"}) {
+        sqlite3* other = nullptr;
+        ASSERT_EQ(sqlite3_open(state.databasePath.c_str(), &other), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(other, hold, nullptr, nullptr, nullptr), SQLITE_OK);
+        std::thread release([other] {
+            std::this_thread::sleep_for(std::chrono::seconds(1));
+            sqlite3_exec(other, "COMMIT;", nullptr, nullptr, nullptr);
+            sqlite3_close(other);
+        });
+        consumed += 10;
+        store.UpdateDatabase1("calorieConsumed", std::to_string(consumed), 0);
+        store.readDataFromDatabaseMainTable();
+        release.join();
+        ASSERT_EQ(state.dailyRows.size(), 1u) << hold;
+        EXPECT_EQ(state.dailyRows[0][2], std::to_string(consumed)) << hold;
+    }
 }
 
 }  // namespace

@@ -52,3 +52,12 @@ TEST(Dates, CalendarDayIsLocal) {
     EXPECT_EQ(day.month, 1);
     EXPECT_EQ(day.day, 1);
 }
+
+TEST(Dates, StartTextsBeyondWhatAnInstantCountsDoNotParse) {
+    const DateFormatter start("yyyy-MM-dd HH:mm:ss zzz", DateLocale::posix);
+    for (const char* text : {"2263-01-01 00:00:00 +0000", "1677-01-01 00:00:00 +0000",
+                             "99999-01-01 00:00:00 +0000", "2262-04-12 00:00:00 +0000"})
+        EXPECT_FALSE(start.parse(text).has_value()) << text;
+    EXPECT_EQ(start.parse("2262-04-11 00:00:00 +0000"), utc("2262-04-11 00:00:00"));
+    EXPECT_EQ(start.parse("1677-09-22 00:00:00 +0000"), utc("1677-09-22 00:00:00"));
+}

@@ -1,0 +1,185 @@
+// The program as a person starts it: a real process on a data folder, which must refuse a second
+// copy of itself and, where it cannot go on, end with a message and status 1.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQuickWindow>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+
+#include "app/EndMessage.h"
+#include "support/Fixtures.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int kDeadlineMs = 120000;  // a sanitizer build on a busy machine starts slowly
+
+std::string contents(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// A data folder as a finished set-up leaves it, with a plan of `days` records begun at start.
+class DataFolder {
+public:
+    DataFolder(Instant start, int days) {
+        std::filesystem::copy_file(FOOD_DB_PATH, database());
+        std::filesystem::permissions(database(), std::filesystem::perms::owner_write,
+                                     std::filesystem::perm_options::add);
+        writePlan(database(), start, "1850", days);
+        QSettings(path() + "/defaults.ini", QSettings::IniFormat).setValue("firstTime", "no");
+    }
+    QString path() const { return QString::fromStdString(dir_.path().string()); }
+    std::string database() const { return dir_.file("food.db"); }
+
+    // The program on this folder, drawn offscreen.
+    std::unique_ptr<QProcess> start(const QStringList& extra = {}) const {
+        auto process = std::make_unique<QProcess>();
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        env.insert("TZ", "UTC");
+        env.insert("ASAN_OPTIONS", "detect_leaks=0:abort_on_error=1");
+        process->setProcessEnvironment(env);
+        process->start(CALORIE_COUNTER_BIN,
+                       QStringList{"--data-dir", path(), "--launch-hold-ms", "0"} + extra);
+        return process;
+    }
+
+private:
+    TempDir dir_;
+};
+
+// Waits for the process to end by itself; its stderr.
+QString ended(QProcess& process) {
+    EXPECT_TRUE(process.waitForFinished(kDeadlineMs)) << "still running";
+    return QString::fromLocal8Bit(process.readAllStandardError());
+}
+
+void expectEndedWithStatusOne(QProcess& process) {
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << "killed by a signal";
+    EXPECT_EQ(process.exitCode(), 1);
+}
+
+TEST(Program, WhereItCannotGoOnItEndsWithStatusOneAndNamesTheCauseAndTheFile) {
+    struct Case {
+        const char* breakage;
+        const char* cause;
+    };
+    const Case cases[] = {
+        {"", "has no day record for today (day 367 of a 366-day plan)"},
+        {"DELETE FROM profileData WHERE id = 2", "has no profile record"},
+    };
+    for (const Case& c : cases) {
+        // The plan's 366 days are over.
+        const DataFolder folder(Clock::now() - 24h * 366 - 3h, 366);
+        execSql(folder.database(), c.breakage);
+        const auto program = folder.start();
+        const QString err = ended(*program);
+        expectEndedWithStatusOne(*program);
+        const QString line = QString("calorie-counter: the plan in %1 %2\n")
+                                 .arg(QString::fromStdString(folder.database()), c.cause);
+        EXPECT_TRUE(err.contains(line)) << err.toStdString();
+    }
+}
+
+TEST(Program, ASecondCopyOnTheSameDataFolderIsRefusedAndTouchesNothing) {
+    const DataFolder folder(Clock::now(), 366);
+    const QString lockFile = folder.path() + "/calorie-counter.lock";
+    const auto first = folder.start();
+    ASSERT_TRUE(first->waitForStarted(kDeadlineMs));
+    const QDeadlineTimer deadline(kDeadlineMs);
+    while (!QFile::exists(lockFile) && first->state() == QProcess::Running &&
+           !deadline.hasExpired())
+        QTest::qWait(50);
+    ASSERT_EQ(first->state(), QProcess::Running) << first->readAllStandardError().toStdString();
+    ASSERT_TRUE(QFile::exists(lockFile));
+
+    const std::string before = contents(folder.database());
+    const auto modified = std::filesystem::last_write_time(folder.database());
+    const auto second = folder.start();
+    const QString err = ended(*second);
+    expectEndedWithStatusOne(*second);
+    EXPECT_TRUE(
+        err.contains(QString("calorie-counter: the program is already running with the data "
+                             "folder %1 (process %2)")
+                         .arg(folder.path())
+                         .arg(first->processId())))
+        << err.toStdString();
+    EXPECT_EQ(first->state(), QProcess::Running);
+    EXPECT_EQ(contents(folder.database()), before);
+    EXPECT_EQ(std::filesystem::last_write_time(folder.database()), modified);
+
+    // A first copy that was killed leaves its lock file behind, but no longer holds the folder.
+    first->kill();
+    first->waitForFinished(kDeadlineMs);
+    const QString shot = folder.path() + "/today.png";
+    const auto third = folder.start({"--screenshot", shot});
+    const QString thirdErr = ended(*third);
+    EXPECT_EQ(third->exitCode(), 0) << thirdErr.toStdString();
+    EXPECT_TRUE(QFile::exists(shot));
+}
+
+// Every accessible name under node, and the first control named `press`.
+void collect(QAccessibleInterface* node, QStringList& names, QAccessibleInterface*& button,
+             const QString& press) {
+    if (!node) return;
+    const QString name = node->text(QAccessible::Name);
+    if (!name.isEmpty()) names << name;
+    if (name == press && node->role() == QAccessible::Button && !button) button = node;
+    for (int i = 0; i < node->childCount(); ++i) collect(node->child(i), names, button, press);
+}
+
+QQuickWindow* endMessageWindow() {
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        auto* quick = qobject_cast<QQuickWindow*>(window);
+        if (quick && quick->isVisible() && quick->title() == "Calorie Counter") return quick;
+    }
+    return nullptr;
+}
+
+TEST(EndMessageWindow, ShowsTheMessageUntilThePersonQuitsByButtonOrKey) {
+    EXPECT_FALSE(hasDisplay());  // offscreen: a test or a headless run never waits on a window
+
+    for (const bool byKey : {false, true}) {
+        QStringList names;
+        bool closed = false;
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            QQuickWindow* window = endMessageWindow();
+            if (!window || closed) return;
+            QAccessibleInterface* quit = nullptr;
+            collect(QAccessible::queryAccessibleInterface(window), names, quit, "Quit");
+            if (!quit) return;  // not laid out yet
+            closed = true;
+            if (byKey) {
+                QTest::keyClick(window, Qt::Key_Escape);
+            } else {
+                quit->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            }
+        });
+        poll.start(50);
+        // Should the window never close, the test fails rather than hangs.
+        QTimer::singleShot(kDeadlineMs, [] {
+            if (QQuickWindow* window = endMessageWindow()) window->hide();
+        });
+        showEndMessageWindow("the plan in /data/food.db has no profile record");
+        EXPECT_TRUE(closed);
+        EXPECT_TRUE(names.contains("Calorie Counter cannot go on"))
+            << names.join('|').toStdString();
+        EXPECT_TRUE(names.contains("The plan in /data/food.db has no profile record"));
+        EXPECT_EQ(endMessageWindow(), nullptr);
+    }
+}
+
+}  // namespace
