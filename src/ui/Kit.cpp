@@ -16,6 +16,8 @@
 #include "ui/PickerView.h"
 #include "ui/DatePicker.h"
 #include "ui/ShapeLayer.h"
+#include "ui/SearchBar.h"
+#include "ui/TableView.h"
 
 void registerKitTypes() {
     constexpr const char* uri = "CalorieKit";
@@ -40,4 +42,7 @@ void registerKitTypes() {
     qmlRegisterType<PickerView>(uri, 1, 0, "PickerView");
     qmlRegisterType<DatePicker>(uri, 1, 0, "DatePicker");
     qmlRegisterType<ShapeLayer>(uri, 1, 0, "ShapeLayer");
+    qmlRegisterType<TableView>(uri, 1, 0, "TableView");
+    qmlRegisterType<SearchBar>(uri, 1, 0, "SearchBar");
+    qmlRegisterUncreatableType<TableViewCell>(uri, 1, 0, "TableViewCell", fromCode);
 }
