@@ -11,6 +11,7 @@
 #include "dashboard/TodayScreen.h"
 #include "exercise/ExerciseScreen.h"
 #include "food/CustomEntryScreen.h"
+#include "food/FoodScreen.h"
 #include "food/SearchFoodScreen.h"
 #include "setup/MeasureUnitScreen.h"
 #include "setup/BirthdayScreen.h"
@@ -37,6 +38,7 @@ const std::map<QString, Factory>& screens() {
         {"LogScreen", make<LogScreen>()},
         {"SearchFoodScreen", make<SearchFoodScreen>()},
         {"CustomEntryScreen", make<CustomEntryScreen>()},
+        {"FoodScreen", make<FoodScreen>()},
         {"ExerciseScreen", make<ExerciseScreen>()},
         {"MoreScreen", make<MoreScreen>()},
         {"EnterWtScreen", make<EnterWtScreen>()},
