@@ -75,6 +75,8 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     EXPECT_EQ(std::to_string(searchScreen->searchFoodTable()->numberOfRowsInSection(0)),
               queryColumn(app.databasePath(), "SELECT count(*) FROM food WHERE id > 0 AND name LIKE '%apple%'")[0]);
     ASSERT_NE(app.findByName("APPLEBEE'S, French fries"), nullptr);
+    // Thousands of rows on the way ("a"), and a screenful of cells made for them.
+    EXPECT_LT(searchScreen->searchFoodTable()->findChildren<TableViewCell*>().size(), 60);
     app.saveScreenshot(idiom() + "-food-search");
 
     ASSERT_TRUE(app.click("Apple juice, canned or bottled, unsweetened, with added ascorbic acid"));
