@@ -1,12 +1,16 @@
 #include "food/FoodSearch.h"
 
-#include <string.h>
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <cstring>
 #include <unordered_map>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "store/DevLog.h"
 
@@ -58,6 +62,37 @@ unsigned long utf16Position(std::string_view name, size_t foldedOffset) {
     return units;
 }
 
+// Where needle (not empty) first starts in [from, end), or end. A single byte is memchr's; a
+// longer needle is looked for 16 places at a time by its first and last bytes together, and
+// compared in full only where both are in place: several times faster than memmem on names.
+const char* findIn(const char* from, const char* end, std::string_view needle) {
+    const size_t n = needle.size();
+    if (static_cast<size_t>(end - from) < n) return end;
+    if (n == 1) {
+        const void* at = std::memchr(from, needle[0], end - from);
+        return at ? static_cast<const char*>(at) : end;
+    }
+    const char* const last = end - n;  // the last place needle can start
+    const char* at = from;
+#if defined(__SSE2__)
+    const __m128i head = _mm_set1_epi8(needle.front());
+    const __m128i tail = _mm_set1_epi8(needle.back());
+    for (; last - at >= 15; at += 16) {
+        const __m128i firsts = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        const __m128i lasts = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + n - 1));
+        auto candidates = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_and_si128(_mm_cmpeq_epi8(firsts, head), _mm_cmpeq_epi8(lasts, tail))));
+        for (; candidates != 0; candidates &= candidates - 1) {
+            const char* start = at + __builtin_ctz(candidates);
+            if (std::memcmp(start + 1, needle.data() + 1, n - 2) == 0) return start;
+        }
+    }
+#endif
+    for (; at <= last; ++at)
+        if (*at == needle[0] && std::memcmp(at, needle.data(), n) == 0) return at;
+    return end;
+}
+
 }  // namespace
 
 FoodSearch::FoodSearch(const std::vector<std::string>& names) : names_(names) {
@@ -96,8 +131,8 @@ bool FoodSearch::run(std::string_view query, std::vector<int32_t>& hits) const {
     const char* const end = base + folded_.size();
     auto name = starts_.begin();
     for (const char* from = base; from < end;) {
-        const auto* at = static_cast<const char*>(memmem(from, end - from, needle.data(), needle.size()));
-        if (!at) break;
+        const char* at = findIn(from, end, needle);
+        if (at == end) break;
         name = std::upper_bound(name, starts_.end(), static_cast<size_t>(at - base)) - 1;
         hits.push_back(firstEqual_[name - starts_.begin()]);
         from = base + *++name;  // a name is listed once, however often it holds the query

@@ -117,7 +117,7 @@ TEST(FoodSearch, ShippedCatalogueAgreesWithSqlAndNeverFindsTheFirstRow) {
     execSql(state.databasePath, "UPDATE food SET name = 'Zebra cake' WHERE id = 0");
     CalorieStore(state).readDataFromDatabaseFoodTable();
     const FoodSearch search(state.foodNames);
-    for (const char* query : {"a", "APPL", "chicken breast", "zebra", "%"}) {
+    for (const char* query : {"a", "Ap", "APPL", "chicken breast", "beverages, carbonated, cola", "zebra", "%"}) {
         Hits hits;
         search.run(query, hits);
         std::vector<std::string> found;
