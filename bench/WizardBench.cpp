@@ -3,38 +3,24 @@
 // SQLite calls, each run on a fresh copy of the shipped food.db in the same folder.
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
-#include <cstdlib>
+#include <QCoreApplication>
 #include <filesystem>
 #include <memory>
 #include <string>
 
 #include "BareSqlite.h"
+#include "GuiApplication.h"
 #include "RatioReporter.h"
 #include "app/SettingsDefaults.h"
 #include "setup/BirthdayScreen.h"
 #include "store/AppState.h"
 #include "store/CalorieStore.h"
 #include "ui/Application.h"
-#include "ui/Kit.h"
 #include "ui/Window.h"
 
 namespace {
 
 constexpr int kDays = 366;
-
-// Screens need a GUI application; made once, on first use, drawing nothing.
-void ensureGuiApplication() {
-    static std::unique_ptr<QGuiApplication> app = [] {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        static int argc = 1;
-        static char name[] = "calorie-bench";
-        static char* argv[] = {name, nullptr};
-        auto created = std::make_unique<QGuiApplication>(argc, argv);
-        registerKitTypes();
-        return created;
-    }();
-}
 
 void BM_SelectDateFloor(benchmark::State& state) {
     for (auto _ : state) {
