@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QQuickItem>
+#include <cmath>
 #include <QQuickWindow>
 #include <QTest>
 
@@ -79,6 +80,17 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     EXPECT_LT(searchScreen->searchFoodTable()->findChildren<TableViewCell*>().size(), 60);
     app.saveScreenshot(idiom() + "-food-search");
 
+    // Row 150 brought to the top, gliding there, and back.
+    TableView* table = searchScreen->searchFoodTable();
+    const QString far = QString::fromStdString(searchScreen->searchresultID.at(150));
+    table->scrollToRowAtIndexPath({0, 150}, TableView::ScrollPosition::Top, true);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        QQuickItem* row = app.findByName(far);
+        return row && std::abs(row->mapToScene({0, 0}).y() - 44) < 1;
+    }, 5000));
+    table->scrollToRowAtIndexPath({0, 0}, TableView::ScrollPosition::Top, false);
+    app.settle();
+
     ASSERT_TRUE(app.click("Apple juice, canned or bottled, unsweetened, with added ascorbic acid"));
     auto* food = top<FoodScreen>(0);
     ASSERT_NE(food, nullptr);
@@ -107,23 +119,35 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{std::to_string(booked) + " 0"});
 }
 
+// By keyboard alone this time: type, Tab to the list, Return on its first row.
 TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
-    search("bananas, r", false);
-    ASSERT_TRUE(app.click("Bananas, raw"));
+    ASSERT_TRUE(app.click("Food"));
+    app.saveScreenshot(idiom() + "-food-tab");
+    ASSERT_TRUE(app.click("Search"));
+    app.type("bananas, r");
+    QTest::keyClick(app.quickWindow(), Qt::Key_Tab);
+    QTest::keyClick(app.quickWindow(), Qt::Key_Return);
+    app.settle();
     auto* food = top<FoodScreen>(1);
     ASSERT_NE(food, nullptr);
+    EXPECT_EQ(food->item, "Bananas, raw");
     EXPECT_EQ(app.findByName("Done"), nullptr);
     ASSERT_TRUE(turn(app, wheels(app.quickWindow()->contentItem())[0], 2));
     EXPECT_NE(food->calorieAmt()->text(), "200");
     EXPECT_EQ(AppState::shared().consumedValue, 0);
     app.saveScreenshot(idiom() + "-food-portion-browse");
 
-    // Back, the results are still there, the chosen one highlighted.
+    // Back, the results are still there, the chosen one highlighted; Cancel clears them away
+    // and takes the keyboard.
     ASSERT_TRUE(app.click("‹ Back"));
-    auto* searchScreen = top<SearchFoodScreen>(1);
-    ASSERT_NE(searchScreen, nullptr);
+    auto* search = top<SearchFoodScreen>(1);
+    ASSERT_NE(search, nullptr);
     EXPECT_NE(app.findByName("Bananas, raw"), nullptr);
-    EXPECT_TRUE(searchScreen->searchFoodTable()->indexPathForSelectedRow().has_value());
+    EXPECT_EQ(search->searchFoodTable()->indexPathForSelectedRow(), (IndexPath{0, 0}));
+    ASSERT_TRUE(app.click("Search"));
+    ASSERT_TRUE(app.click("Cancel"));
+    EXPECT_EQ(app.findByName("Bananas, raw"), nullptr);
+    EXPECT_FALSE(app.quickWindow()->activeFocusItem() && app.quickWindow()->activeFocusItem()->inherits("QQuickTextInput"));
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{"0 0"});
 }
 

@@ -28,12 +28,7 @@ Item {
         anchors.fill: parent
         model: root.model.rows
         reuseItems: true
-        activeFocusOnTab: true
-        keyNavigationEnabled: true
         highlightFollowsCurrentItem: false
-        Keys.onReturnPressed: root.model.userSelectedRow(currentIndex)
-        Keys.onEnterPressed: root.model.userSelectedRow(currentIndex)
-        Keys.onSpacePressed: root.model.userSelectedRow(currentIndex)
         Accessible.role: Accessible.List
 
         header: Loader {
@@ -117,7 +112,7 @@ Item {
                 anchors.fill: parent
                 color: "transparent"
                 border { width: 2; color: Theme.tint }
-                visible: row.ListView.isCurrentItem && list.activeFocus
+                visible: row.ListView.isCurrentItem && keys.activeFocus
             }
             MouseArea {
                 anchors.fill: parent
@@ -141,6 +136,24 @@ Item {
             duration: 300
             easing.type: Easing.InOutQuad
         }
+    }
+
+    // The keyboard's way in: Tab here, the arrows move the current row, Return or Space selects
+    // it. Not the list itself, whose focus would pass straight on to a field in its header view.
+    Item {
+        id: keys
+        activeFocusOnTab: true
+        function move(by) {
+            list.currentIndex = Math.max(0, Math.min(list.count - 1, list.currentIndex + by))
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain)
+        }
+        onActiveFocusChanged: if (activeFocus && list.currentIndex < 0) move(0)
+        Keys.onUpPressed: move(-1)
+        Keys.onDownPressed: move(1)
+        Keys.onReturnPressed: root.model.userSelectedRow(list.currentIndex)
+        Keys.onEnterPressed: root.model.userSelectedRow(list.currentIndex)
+        Keys.onSpacePressed: root.model.userSelectedRow(list.currentIndex)
+        Accessible.ignored: true  // the rows speak for themselves
     }
 
     Connections {
