@@ -50,9 +50,10 @@ public:
     const std::string& at(int64_t k) const {
         return checkedAt(catalogue_, checkedAt(positions_, k, "the results"), name_);
     }
+    // The entries in order, for as long as the catalogue and the positions live.
     auto items() const {
-        return positions_ | std::views::transform([this](int32_t p) -> const std::string& {
-                   return checkedAt(catalogue_, p, name_);
+        return positions_ | std::views::transform([&list = catalogue_, name = name_](int32_t p) -> const std::string& {
+                   return checkedAt(list, p, name);
                });
     }
 

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QQuickItem>
-#include <cmath>
 #include <QQuickWindow>
 #include <QTest>
+#include <cmath>
 
 #include "food/FoodScreen.h"
 #include "food/SearchFoodScreen.h"
@@ -154,6 +154,7 @@ TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
 TEST_P(Food, CustomCaloriesEatenAndBurned) {
     ASSERT_TRUE(app.click("Add food"));
     ASSERT_TRUE(app.click("Custom food"));
+    EXPECT_NE(app.findByName("Enter Amount of Calories"), nullptr);
     app.type("1200");
     app.saveScreenshot(idiom() + "-custom-food");
     ASSERT_TRUE(app.click("Done"));
@@ -162,6 +163,7 @@ TEST_P(Food, CustomCaloriesEatenAndBurned) {
 
     ASSERT_TRUE(app.click("Add exercise"));
     ASSERT_TRUE(app.click("Custom exercise"));
+    EXPECT_NE(app.findByName("Calories Burned"), nullptr);
     EXPECT_NE(app.findByName("Enter Amount of Calories burned"), nullptr);
     app.type("300");
     app.saveScreenshot(idiom() + "-custom-exercise");
