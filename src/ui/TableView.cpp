@@ -36,11 +36,6 @@ TableView::TableView(QObject* parent) : View(parent), rows_(this) {}
 
 void TableView::reloadData() {
     rows_.beginResetModel();
-    load();
-    rows_.endResetModel();
-}
-
-void TableView::load() {
     loaded_ = true;
     selectedRow_ = -1;
     for (View* header : std::as_const(headerViews_))
@@ -53,6 +48,7 @@ void TableView::load() {
         // The list counts its rows in an int.
         sectionStarts_.push_back(std::min<int64_t>(sectionStarts_.back() + rows, INT_MAX));
     }
+    rows_.endResetModel();
 }
 
 void TableView::layoutIfNeeded() {

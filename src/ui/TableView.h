@@ -130,7 +130,6 @@ signals:
 
 private:
     friend class TableRows;
-    void load();
     int flatRowCount() const { return int(sectionStarts_.back()); }
     int flatRow(IndexPath indexPath) const;  // -1 if the table has no such row
     IndexPath indexPathOf(int row) const;
