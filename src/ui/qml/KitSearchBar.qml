@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Basic as Controls
-import QtQuick.Shapes
 import CalorieKit
 
 // Renders a SearchBar: a rounded field with a magnifier, and the cancel button sliding in beside
@@ -29,18 +28,20 @@ Item {
             NumberAnimation { duration: 250; easing.type: Easing.OutCubic }
         }
 
-        Shape {
+        Item {
             id: magnifier
             x: 10; y: (box.height - 14) / 2
             width: 14; height: 14
-            ShapePath {
-                strokeColor: Theme.secondaryText
-                strokeWidth: 1.6
-                fillColor: "transparent"
-                capStyle: ShapePath.RoundCap
-                PathAngleArc { centerX: 6; centerY: 6; radiusX: 5; radiusY: 5; startAngle: 0; sweepAngle: 360 }
-                PathMove { x: 9.6; y: 9.6 }
-                PathLine { x: 13.5; y: 13.5 }
+            Rectangle {
+                width: 11; height: 11; radius: 5.5
+                color: "transparent"
+                border { width: 1.6; color: Theme.secondaryText }
+            }
+            Rectangle {
+                x: 8.5; y: 10.3
+                width: 5.5; height: 1.8; radius: 0.9
+                rotation: 45
+                color: Theme.secondaryText
             }
         }
         Controls.TextField {
