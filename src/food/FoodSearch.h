@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <ranges>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,11 +49,12 @@ public:
     const std::string& at(int64_t k) const {
         return checkedAt(catalogue_, checkedAt(positions_, k, "the results"), name_);
     }
-    // The entries in order, for as long as the catalogue and the positions live.
-    auto items() const {
-        return positions_ | std::views::transform([&list = catalogue_, name = name_](int32_t p) -> const std::string& {
-                   return checkedAt(list, p, name);
-               });
+    // The entries in order, copied: for the developer log only.
+    std::vector<std::string> texts() const {
+        std::vector<std::string> out;
+        out.reserve(positions_.size());
+        for (size_t k = 0; k < positions_.size(); ++k) out.push_back(at(int64_t(k)));
+        return out;
     }
 
 private:

@@ -92,6 +92,6 @@ void SearchFoodScreen::searchBarTextDidChange(const QString& searchText) {
 
 void SearchFoodScreen::logResults() const {
     if (!devlog::enabled()) return;
-    DEVLOG("search result%s", devlog::describe(searchresult.items()).c_str());
-    DEVLOG("search result%s", devlog::describe(searchresultID.items()).c_str());
+    DEVLOG("search result%s", devlog::describe(searchresult.texts()).c_str());
+    DEVLOG("search result%s", devlog::describe(searchresultID.texts()).c_str());
 }

@@ -26,8 +26,7 @@ Hits find(std::string_view query, const std::vector<std::string>& names = kNames
 
 // What a result list over these hits reads, entry by entry.
 std::vector<std::string> texts(const std::vector<std::string>& list, const Hits& hits) {
-    const auto items = ResultList(list, hits, "list").items();
-    return {items.begin(), items.end()};
+    return ResultList(list, hits, "list").texts();
 }
 
 // Letter case is ignored (beyond ASCII too), accents are not; the query is taken as it stands,
