@@ -123,6 +123,12 @@ TEST_P(Exercise, SearchedFromTheExerciseTabOnlyCalculates) {
     EXPECT_NE(app.findByName("Section index"), nullptr);
     EXPECT_NE(app.findByName("Aerobics, low impact"), nullptr);
     EXPECT_EQ(dayInFile(app.databasePath(), 2), std::vector<std::string>{"1240 0"});
+
+    // By keyboard: Tab to the bar, down to "S", Return.
+    ASSERT_TRUE(app.tabTo("Section index"));
+    app.key(Qt::Key_Down, 19);
+    app.key(Qt::Key_Return);
+    EXPECT_TRUE(firstUnderHeader("Sky diving", app.findByName("Section index")->mapToScene({0, 0}).y()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Idioms, Exercise, testing::Values(false, true),
