@@ -20,9 +20,9 @@ std::vector<std::string> dayInFile(const std::string& db, int64_t day) {
                             std::to_string(day)).c_str());
 }
 
-// Two days into a 1850-calorie plan (today is day 2), with 1240 eaten today.
 class Exercise : public testing::TestWithParam<bool> {
 protected:
+    // Two days into a 1850-calorie plan (today is day 2), with 1240 eaten today.
     void SetUp() override {
         const std::string db = app.prepareDatabase();
         writePlan(db, Clock::now() - std::chrono::hours(49), "1850", 366);
@@ -47,9 +47,6 @@ protected:
             return item && std::abs(item->mapToScene({0, 0}).y() - (listTop + 22)) < 1;
         }, 5000);
     }
-    int selected(BrowseExerciseScreen* screen, int wheel) {
-        return screen->selectPicker()->selectedRowInComponent(wheel);
-    }
 
     AppHarness app{{.pad = GetParam(), .firstTime = QString("no")}};
 };
@@ -70,14 +67,18 @@ TEST_P(Exercise, FromTodayALetterAnActivityAndTheWheelsAreBooked) {
     ASSERT_TRUE(app.click("Paddle boat"));
     auto* duration = qobject_cast<BrowseExerciseScreen*>(tab(0)->topViewController());
     ASSERT_NE(duration, nullptr);
-    EXPECT_EQ(duration->title(), "Add Exercise");
-    EXPECT_EQ(duration->item1(), "281");
+    for (const char* shown : {"Add Exercise", "Cancel", "Paddle boat", "281", "281 Cal per hour"})
+        EXPECT_NE(app.findByName(shown), nullptr) << shown;
+    // The wheels stand where code put them: one hour, no minutes.
+    EXPECT_EQ(app.findByName("Hours")->property("currentIndex").toInt(), 1);
+    EXPECT_EQ(app.findByName("Minutes")->property("currentIndex").toInt(), 0);
     ASSERT_TRUE(app.turn("Hours", 1));
-    const int hours = selected(duration, 0);
+    const int64_t hours = duration->selectPicker()->selectedRowInComponent(0);
     ASSERT_TRUE(app.turn("Minutes", 3));
-    const int total = hours * 281 + selected(duration, 2) * 4;
+    const int64_t total = hours * 281 + duration->selectPicker()->selectedRowInComponent(2) * 4;
     EXPECT_EQ(duration->calorieAmt()->text(), QString::number(total));
-    const int booked = hours * 281 + total;  // each settled wheel booked what it showed then
+    app.saveScreenshot(idiom() + "-exercise-duration");
+    const int64_t booked = hours * 281 + total;  // each settled wheel booked what it showed then
 
     ASSERT_TRUE(app.click("Done"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return tab(0)->viewControllers().size() == 1; }, 5000));
