@@ -29,6 +29,7 @@ Item {
         model: root.model.rows
         reuseItems: true
         highlightFollowsCurrentItem: false
+        onMovementStarted: scrolling.stop()  // a finger on the list takes over from a glide
         Accessible.role: Accessible.List
 
         header: Loader {
