@@ -8,6 +8,7 @@ class Label : public View {
     Q_OBJECT
     KIT_PROPERTY(QString, text, setText);
     KIT_PROPERTY_INIT(QColor, textColor, setTextColor, Qt::black);
+    KIT_PROPERTY_INIT(QColor, backgroundColor, setBackgroundColor, Qt::transparent);
     // As the platform numbers them: 0 left, 1 centre, 2 right, 3 justified.
     KIT_PROPERTY(int, textAlignment, setTextAlignment);
     KIT_PROPERTY(QString, fontName, setFontName);  // empty: the layout's font

@@ -20,7 +20,9 @@ Item {
     function report() { if (model) model.setLaidOutSize(Qt.size(width, height)) }
     function press(letter) { if (model) model.pressLetter(letter) }
 
-    KitLayers { layers: root.model ? root.model.sublayers : null }
+    // A hidden bar draws nothing: while the list is searched it is laid out afresh on every
+    // keystroke, and only the layers of its last layout are drawn once it shows again.
+    KitLayers { layers: root.model && !root.model.hidden ? root.model.sublayers : null }
 
     MouseArea {
         anchors.fill: parent

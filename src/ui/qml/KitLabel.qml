@@ -1,7 +1,8 @@
 import QtQuick
 import CalorieKit
 
-// Renders a Label. A font named "...-Thin" that this machine lacks falls back to a thin sans face.
+// Renders a Label over its background colour. A font named "...-Thin" or "...-Bold" that this
+// machine lacks falls back to a thin or bold sans face.
 Text {
     id: root
     property Label model: Label {}
@@ -15,8 +16,15 @@ Text {
     verticalAlignment: Text.AlignVCenter  // a label centres its text in its frame
     horizontalAlignment: [Text.AlignLeft, Text.AlignHCenter, Text.AlignRight, Text.AlignJustify][model.textAlignment] ?? Text.AlignLeft
     font.family: model.fontName && Theme.hasFont(model.fontName) ? model.fontName : Theme.fontFamily
-    font.weight: model.fontName.endsWith("-Thin") ? Font.Thin : Font.Normal
+    font.weight: model.fontName.endsWith("-Thin") ? Font.Thin : model.fontName.endsWith("-Bold") ? Font.Bold : Font.Normal
     font.pixelSize: model.fontSize > 0 ? model.fontSize : 17
+
+    Rectangle {
+        anchors.fill: parent
+        z: -1  // beneath the text
+        color: root.model.backgroundColor
+        visible: color.a > 0
+    }
 
     Accessible.role: Accessible.StaticText
     Accessible.name: text

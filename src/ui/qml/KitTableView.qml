@@ -29,6 +29,7 @@ Item {
         model: root.model.rows
         reuseItems: true
         highlightFollowsCurrentItem: false
+        onMovementStarted: scrolling.stop()  // a finger on the list takes over from a glide
         Accessible.role: Accessible.List
 
         header: Loader {
@@ -129,12 +130,18 @@ Item {
             Accessible.onPressAction: root.model.userSelectedRow(row.index)
         }
 
+        // Rows not yet made stand where the list estimates them, and sections' headers make
+        // rows unequal: a glide ends near a far row, and a short one then finishes it exactly.
         NumberAnimation {
             id: scrolling
+            property int row: -1
+            property int mode: ListView.Beginning
+            property int glides: 0
             target: list
             property: "contentY"
             duration: 300
             easing.type: Easing.InOutQuad
+            onFinished: if (++glides < 4) root.glide(row, mode, 150)
         }
     }
 
@@ -159,14 +166,32 @@ Item {
     Connections {
         target: root.model
         function onScrollRequested(row, position, animated) {
-            const from = list.contentY
             scrolling.stop()
-            list.positionViewAtIndex(row, [ListView.Contain, ListView.Beginning, ListView.Center, ListView.End][position])
-            if (!animated) return
-            scrolling.to = list.contentY
-            list.contentY = from
-            scrolling.start()
+            const mode = [ListView.Contain, ListView.Beginning, ListView.Center, ListView.End][position]
+            if (!animated) {
+                list.positionViewAtIndex(row, mode)
+                return
+            }
+            scrolling.glides = 0
+            root.glide(row, mode, 300)
         }
+    }
+    // Glides from where the list stands to where row is placed as mode says; no further than a
+    // pixel is no glide.
+    function glide(row, mode, duration) {
+        const from = list.contentY
+        list.positionViewAtIndex(row, mode)
+        const to = list.contentY
+        list.contentY = from
+        if (Math.abs(to - from) < 1) {
+            list.contentY = to
+            return
+        }
+        scrolling.row = row
+        scrolling.mode = mode
+        scrolling.to = to
+        scrolling.duration = duration
+        scrolling.start()
     }
     // The rows are first asked for once the screen has loaded, as the platform lays a table out.
     Component.onCompleted: Qt.callLater(() => root.model && root.model.layoutIfNeeded())
