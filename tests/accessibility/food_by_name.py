@@ -10,13 +10,28 @@ import pyatspi
 FOOD = "Apple juice, canned or bottled, unsweetened, with added ascorbic acid"
 
 
-def nodes(node, depth=0):
-    """Every node on screen, depth first, with its depth."""
-    if node is None or depth > 60 or not node.getState().contains(pyatspi.STATE_SHOWING):
+TAB, DOWN = 0xff09, 0xff54  # key symbols
+
+
+def nodes(node, depth=0, every=False):
+    """Every node on screen (or in the tree at all), depth first, with its depth."""
+    if node is None or depth > 60 or not (every or node.getState().contains(pyatspi.STATE_SHOWING)):
         return
     yield node, depth
     for child in node:
-        yield from nodes(child, depth + 1)
+        yield from nodes(child, depth + 1, every)
+
+
+def wait_for_focus(app, name, timeout=30):
+    """Waits until the one focused list item is the row named name, reported selected."""
+    deadline = time.time() + timeout
+    while time.time() < deadline:
+        rows = [n for n, _ in nodes(app) if n.getRole() == pyatspi.ROLE_LIST_ITEM
+                and n.getState().contains(pyatspi.STATE_FOCUSED)]
+        if [r.name for r in rows] == [name] and rows[0].getState().contains(pyatspi.STATE_SELECTED):
+            return
+        time.sleep(0.1)
+    raise AssertionError("the row with the keyboard is not %r, focused and selected" % name)
 
 
 def wait_for(app, name, role, timeout=30):
@@ -60,7 +75,16 @@ def main():
         for key in "apple juice, c":
             pyatspi.Registry.generateKeyboardEvent(ord(key), None, pyatspi.KEY_SYM)
             time.sleep(0.05)
-        press(wait_for(app, FOOD, pyatspi.ROLE_LIST_ITEM))
+        food = wait_for(app, FOOD, pyatspi.ROLE_LIST_ITEM)
+        # Tab past Cancel into the results: the row with the keyboard is the focused, selected list
+        # item, and the only node of its name; the arrows take the focus from row to row.
+        for keys, row in (((TAB, TAB), FOOD), ((DOWN,), FOOD.replace("with added", "without added"))):
+            for key in keys:
+                pyatspi.Registry.generateKeyboardEvent(key, None, pyatspi.KEY_SYM)
+            wait_for_focus(app, row)
+        if sum(1 for n, _ in nodes(app, every=True) if n.name == FOOD) != 1:
+            raise AssertionError("%r is in the tree more than once" % FOOD)
+        press(food)
         wait_for(app, "Add Food", pyatspi.ROLE_HEADING)
         wait_for(app, "Cancel", pyatspi.ROLE_PUSH_BUTTON)
         press(wait_for(app, "Done", pyatspi.ROLE_PUSH_BUTTON))

@@ -4,6 +4,7 @@
 // Screenshots of what they see land in the build folder's screenshots/.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -119,21 +120,41 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{std::to_string(booked) + " 0"});
 }
 
-// By keyboard alone this time: type, Tab to the list, Return on its first row.
+// By keyboard alone this time: type, Tab past Cancel into the results, an arrow down, Return.
 TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
     ASSERT_TRUE(app.click("Food"));
     app.saveScreenshot(idiom() + "-food-tab");
     ASSERT_TRUE(app.click("Search"));
-    app.type("bananas, r");
-    QTest::keyClick(app.quickWindow(), Qt::Key_Tab);
-    QTest::keyClick(app.quickWindow(), Qt::Key_Return);
+    // The row that has the keyboard is what assistive technology hears as focused and selected.
+    const auto focusedRow = [&] {
+        QAccessibleInterface* node = app.focused() ? QAccessible::queryAccessibleInterface(app.focused()) : nullptr;
+        return node && node->role() == QAccessible::ListItem && node->state().focused && node->state().selected
+                   ? node->text(QAccessible::Name) : QString();
+    };
+    app.type("banana,");
+    app.key(Qt::Key_Tab);
+    EXPECT_EQ(app.focused(), app.findByName("Cancel"));
+    app.key(Qt::Key_Tab);
+    EXPECT_EQ(focusedRow(), "Babyfood, fruit, applesauce with banana, junior");
+    // Back in the field, typing goes on there while the rows change beneath it.
+    app.key(Qt::Key_Backtab, 2);
+    app.type(" r");
+    EXPECT_TRUE(app.focused() && app.focused()->inherits("QQuickTextInput"));
+    // Tab goes on past the table, and back into it at its first row on screen.
+    app.key(Qt::Key_Tab, 3);
+    EXPECT_EQ(app.focused(), app.findByName("Today"));
+    app.key(Qt::Key_Backtab);
+    EXPECT_EQ(focusedRow(), "Pepper, banana, raw");
+    app.key(Qt::Key_Down);
+    EXPECT_EQ(focusedRow(), "Puddings, banana, ready-to-eat");
+    app.key(Qt::Key_Return);
     app.settle();
     auto* food = top<FoodScreen>(1);
     ASSERT_NE(food, nullptr);
-    EXPECT_EQ(food->item, "Bananas, raw");
+    EXPECT_EQ(food->item, "Puddings, banana, ready-to-eat");
     EXPECT_EQ(app.findByName("Done"), nullptr);
     ASSERT_TRUE(turn(app, wheels(app.quickWindow()->contentItem())[0], 2));
-    EXPECT_NE(food->calorieAmt()->text(), "200");
+    EXPECT_NE(food->calorieAmt()->text(), "36");
     EXPECT_EQ(AppState::shared().consumedValue, 0);
     app.saveScreenshot(idiom() + "-food-portion-browse");
 
@@ -142,11 +163,11 @@ TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
     ASSERT_TRUE(app.click("‹ Back"));
     auto* search = top<SearchFoodScreen>(1);
     ASSERT_NE(search, nullptr);
-    EXPECT_NE(app.findByName("Bananas, raw"), nullptr);
-    EXPECT_EQ(search->searchFoodTable()->indexPathForSelectedRow(), (IndexPath{0, 0}));
+    EXPECT_NE(app.findByName("Pepper, banana, raw"), nullptr);
+    EXPECT_EQ(search->searchFoodTable()->indexPathForSelectedRow(), (IndexPath{0, 1}));
     ASSERT_TRUE(app.click("Search"));
     ASSERT_TRUE(app.click("Cancel"));
-    EXPECT_EQ(app.findByName("Bananas, raw"), nullptr);
+    EXPECT_EQ(app.findByName("Pepper, banana, raw"), nullptr);
     EXPECT_FALSE(app.quickWindow()->activeFocusItem() && app.quickWindow()->activeFocusItem()->inherits("QQuickTextInput"));
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{"0 0"});
 }
