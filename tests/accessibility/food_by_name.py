@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Books a food the way a screen reader user does, over AT-SPI: presses "Add food" and "Search for
-food", types into the search field (an editable text named "Search"), presses the food among the
-results (list items named by the food), then "Done" on the portion screen, back to Today."""
+food", types into the search field (an editable text named "Search"), walks the results with Tab
+and the arrows, presses the food among them (list items named by the food), turns the portion
+wheels by their actions, then "Done", back to Today with the amounts booked."""
 import sys
 import time
 
@@ -45,12 +46,16 @@ def wait_for(app, name, role, timeout=30):
     raise AssertionError("no %s named %r; on screen:\n%s" % (pyatspi.Role(role), name, shown))
 
 
-def press(node):
+def act(node, action):
     actions = node.queryAction()
     names = [actions.getName(i).lower() for i in range(actions.nActions)]
-    if "press" not in names:
-        raise AssertionError("%r offers no press action" % node.name)
-    actions.doAction(names.index("press"))
+    if action not in names:
+        raise AssertionError("%r offers no %s action" % (node.name, action))
+    actions.doAction(names.index(action))
+
+
+def press(node):
+    act(node, "press")
 
 
 def main():
@@ -87,8 +92,17 @@ def main():
         press(food)
         wait_for(app, "Add Food", pyatspi.ROLE_HEADING)
         wait_for(app, "Cancel", pyatspi.ROLE_PUSH_BUTTON)
+        # The portion wheels, turned by their actions: it opens on one portion (114 Cal, not
+        # booked); each turn books the amount it shows, 228 and then 242 (an eighth is 14).
+        portions = wait_for(app, "Portions", pyatspi.ROLE_SPIN_BUTTON)
+        if portions.queryValue().currentValue != 1:
+            raise AssertionError("the portion screen opens on %s portions" % portions.queryValue().currentValue)
+        wait_for(app, "114", pyatspi.ROLE_LABEL)
+        for wheel, amount in (("Portions", "228"), ("Fraction", "242")):
+            act(wait_for(app, wheel, pyatspi.ROLE_SPIN_BUTTON), "increase")
+            wait_for(app, amount, pyatspi.ROLE_LABEL)
         press(wait_for(app, "Done", pyatspi.ROLE_PUSH_BUTTON))
-        wait_for(app, "Calories left", pyatspi.ROLE_LABEL)
+        wait_for(app, "470 Cal", pyatspi.ROLE_LABEL)
     except AssertionError as failure:
         print("FAIL: %s" % failure)
         return 1
