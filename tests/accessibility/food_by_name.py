@@ -12,6 +12,7 @@ FOOD = "Apple juice, canned or bottled, unsweetened, with added ascorbic acid"
 
 
 TAB, DOWN = 0xff09, 0xff54  # key symbols
+OVERLAY = {"In progress", "Success", "Error"}
 
 
 def nodes(node, depth=0, every=False):
@@ -46,6 +47,17 @@ def wait_for(app, name, role, timeout=30):
     raise AssertionError("no %s named %r; on screen:\n%s" % (pyatspi.Role(role), name, shown))
 
 
+def expect_absent(app, names, timeout=30):
+    deadline = time.time() + timeout
+    while True:
+        left = {n.name for n, _ in nodes(app, every=True)} & names
+        if not left:
+            return
+        if time.time() > deadline:
+            raise AssertionError("in the tree though not shown: %s" % sorted(left))
+        time.sleep(0.2)
+
+
 def act(node, action):
     actions = node.queryAction()
     names = [actions.getName(i).lower() for i in range(actions.nActions)]
@@ -67,8 +79,12 @@ def main():
     try:
         if app is None:
             raise AssertionError("the app is not on the accessibility bus")
+        # What does not show is not in the tree at all: neither the hidden status overlay, nor
+        # Today's texts beneath the add menu.
         press(wait_for(app, "Add food", pyatspi.ROLE_PUSH_BUTTON))
-        press(wait_for(app, "Search for food", pyatspi.ROLE_PUSH_BUTTON))
+        search = wait_for(app, "Search for food", pyatspi.ROLE_PUSH_BUTTON)
+        expect_absent(app, OVERLAY | {"Calories eaten", "Calories left", "Eaten", "Burned", "Add exercise"})
+        press(search)
         field = wait_for(app, "Search", pyatspi.ROLE_TEXT)
         if not field.getState().contains(pyatspi.STATE_EDITABLE):
             raise AssertionError("the search field is not editable")
@@ -103,6 +119,7 @@ def main():
             wait_for(app, amount, pyatspi.ROLE_LABEL)
         press(wait_for(app, "Done", pyatspi.ROLE_PUSH_BUTTON))
         wait_for(app, "470 Cal", pyatspi.ROLE_LABEL)
+        expect_absent(app, OVERLAY)  # once Today has dismissed it
     except AssertionError as failure:
         print("FAIL: %s" % failure)
         return 1

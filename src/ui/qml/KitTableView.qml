@@ -36,6 +36,7 @@ Item {
         reuseItems: true
         highlightFollowsCurrentItem: false
         Accessible.role: Accessible.List
+        Accessible.ignored: !visible || !enabled
 
         header: Loader {
             readonly property View view: root.model.tableHeaderView
