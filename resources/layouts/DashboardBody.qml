@@ -22,6 +22,7 @@ Item {
         color: Theme.secondaryText
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+        Accessible.ignored: !visible || !enabled  // covered, as beneath the add menu
     }
 
     component Figure: Item {

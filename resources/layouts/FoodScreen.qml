@@ -74,6 +74,7 @@ KitScreen {
             font.pixelSize: 13 * layout.unit
             Accessible.role: Accessible.StaticText
             Accessible.name: text
+            Accessible.ignored: !visible || !enabled
         }
     }
 }

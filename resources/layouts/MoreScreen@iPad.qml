@@ -13,6 +13,7 @@ KitScreen {
             text: "About Calorie Counter"
             font.family: Theme.fontFamily; font.pixelSize: 28; font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading; Accessible.name: text
+            Accessible.ignored: !visible || !enabled
         }
         KitLabel {
             id: about

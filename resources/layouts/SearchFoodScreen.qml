@@ -27,5 +27,6 @@ KitScreen {
         font.pixelSize: layout.pad ? 20 : 15
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+        Accessible.ignored: !visible || !enabled
     }
 }

@@ -58,6 +58,11 @@ QString FoodScreen::pickerViewTitleForRowForComponent(int64_t row, int64_t compo
     return QString();
 }
 
+QString FoodScreen::pickerViewAccessibilityLabelForComponent(int64_t component) {
+    static const char* const names[] = {"Portions", "Fraction", "Portions unit"};
+    return component >= 0 && component < 3 ? names[component] : QString();
+}
+
 void FoodScreen::pickerViewDidSelectRowInComponent(int64_t row, int64_t component) {
     if (component == 0) {
         // 64-bit and wrapping: a calories text past the limits stays out of undefined behaviour.

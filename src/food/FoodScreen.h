@@ -32,6 +32,8 @@ public:
     int64_t pickerViewNumberOfRowsInComponent(int64_t component) override;
     QString pickerViewTitleForRowForComponent(int64_t row, int64_t component) override;
     void pickerViewDidSelectRowInComponent(int64_t row, int64_t component) override;
+    // "Portions", "Fraction", and "Portions unit" for the blank wheel that stands where a unit would.
+    QString pickerViewAccessibilityLabelForComponent(int64_t component) override;
 
     // Set by the search before the screen is shown.
     std::string item;          // the food's name

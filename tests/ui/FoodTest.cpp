@@ -4,6 +4,7 @@
 // Screenshots of what they see land in the build folder's screenshots/.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -33,19 +34,11 @@ std::vector<std::string> dayInFile(const std::string& db, int64_t day) {
                             std::to_string(day)).c_str());
 }
 
-// The wheels on screen, left to right, found by what they are: only the portion screen has any.
-QList<QQuickItem*> wheels(QQuickItem* item) {
-    if (!item->isVisible()) return {};
-    if (item->property("visibleItemCount").isValid()) return {item};
-    QList<QQuickItem*> found;
-    for (QQuickItem* child : item->childItems()) found << wheels(child);
-    return found;
-}
-
-// Flicks a wheel by about rows and waits until it has come to rest, as the choice is made only then.
-bool turn(AppHarness& app, QQuickItem* wheel, int rows) {
-    app.drag(wheel->mapToScene(QPointF(wheel->width() / 2, wheel->height() / 2)), -rows * wheel->height() / 5);
-    return QTest::qWaitFor([wheel] { return !wheel->property("moving").toBool(); }, 10000);
+// What assistive technology reads of the named control: a wheel's value is the number it shows.
+double valueOf(AppHarness& app, const QString& name) {
+    QQuickItem* item = app.findByName(name);
+    QAccessibleInterface* node = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    return node && node->valueInterface() ? node->valueInterface()->currentValue().toDouble() : -1;
 }
 
 class Food : public testing::TestWithParam<bool> {
@@ -98,20 +91,28 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     EXPECT_EQ(food->calorieAmt()->text(), "114");
     EXPECT_NE(app.findByName("1 cup (248 g)"), nullptr);
 
-    const QList<QQuickItem*> picker = wheels(app.quickWindow()->contentItem());
-    ASSERT_EQ(picker.size(), 3);
-    ASSERT_TRUE(turn(app, picker[0], 2));
-    const int64_t portions = food->selectPicker()->selectedRowInComponent(0);
-    EXPECT_GT(portions, 1);
-    ASSERT_TRUE(turn(app, picker[1], 4));
-    const int64_t eighths = food->selectPicker()->selectedRowInComponent(1);
-    EXPECT_GT(eighths, 0);
-    const int64_t shown = portions * 114 + 114 * eighths / 8;
-    EXPECT_EQ(food->calorieAmt()->text(), QString::number(shown));
+    // It opens on one portion, which is shown and not booked.
+    EXPECT_EQ(valueOf(app, "Portions"), 1);
+    EXPECT_EQ(AppState::shared().consumedValue, 0);
     app.saveScreenshot(idiom() + "-food-portion");
 
-    // Each settled wheel booked what it showed then.
-    const int32_t booked = int32_t(portions * 114 + shown);
+    // Two flicks and two arrow keys: four settled turns, each booking what it shows then.
+    ASSERT_TRUE(app.turn("Portions", 2));
+    const int64_t portions = food->selectPicker()->selectedRowInComponent(0);
+    EXPECT_GT(portions, 1);
+    ASSERT_TRUE(app.turn("Fraction", 4));
+    const int64_t eighths = food->selectPicker()->selectedRowInComponent(1);
+    EXPECT_GT(eighths, 0);
+    const int64_t fraction = 114 * eighths / 8;
+    EXPECT_EQ(food->calorieAmt()->text(), QString::number(portions * 114 + fraction));
+    ASSERT_TRUE(app.tabTo("Portions"));
+    app.key(Qt::Key_Down, 2);
+    EXPECT_EQ(valueOf(app, "Portions"), portions + 2);
+    EXPECT_EQ(food->calorieAmt()->text(), QString::number((portions + 2) * 114 + fraction));
+    const int32_t booked = int32_t(portions * 114 + (portions * 114 + fraction) +
+                                   ((portions + 1) * 114 + fraction) + ((portions + 2) * 114 + fraction));
+    EXPECT_EQ(AppState::shared().consumedValue, booked);
+
     ASSERT_TRUE(app.click("Done"));
     ASSERT_TRUE(overlayGone());
     EXPECT_EQ(tab(0)->viewControllers().size(), 1);
@@ -119,21 +120,42 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{std::to_string(booked) + " 0"});
 }
 
-// By keyboard alone this time: type, Tab to the list, Return on its first row.
+// By keyboard alone this time: type, Tab past Cancel into the results, an arrow down, Return.
 TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
     ASSERT_TRUE(app.click("Food"));
     app.saveScreenshot(idiom() + "-food-tab");
     ASSERT_TRUE(app.click("Search"));
-    app.type("bananas, r");
-    QTest::keyClick(app.quickWindow(), Qt::Key_Tab);
-    QTest::keyClick(app.quickWindow(), Qt::Key_Return);
+    // The row that has the keyboard is what assistive technology hears as focused and selected.
+    const auto focusedRow = [&] {
+        QAccessibleInterface* node = app.focused() ? QAccessible::queryAccessibleInterface(app.focused()) : nullptr;
+        return node && node->role() == QAccessible::ListItem && node->state().focused && node->state().selected
+                   ? node->text(QAccessible::Name) : QString();
+    };
+    app.type("banana,");
+    app.key(Qt::Key_Tab);
+    EXPECT_EQ(app.focused(), app.findByName("Cancel"));
+    app.key(Qt::Key_Tab);
+    EXPECT_EQ(focusedRow(), "Babyfood, fruit, applesauce with banana, junior");
+    // Back in the field, typing goes on there while the rows change beneath it.
+    app.key(Qt::Key_Backtab, 2);
+    app.type(" r");
+    EXPECT_TRUE(app.focused() && app.focused()->inherits("QQuickTextInput"));
+    // Tab goes on past the table, and back into it at its first row on screen.
+    app.key(Qt::Key_Tab, 3);
+    EXPECT_EQ(app.focused(), app.findByName("Today"));
+    app.key(Qt::Key_Backtab);
+    EXPECT_EQ(focusedRow(), "Pepper, banana, raw");
+    app.key(Qt::Key_Down);
+    EXPECT_EQ(focusedRow(), "Puddings, banana, ready-to-eat");
+    app.key(Qt::Key_Return);
     app.settle();
     auto* food = top<FoodScreen>(1);
     ASSERT_NE(food, nullptr);
-    EXPECT_EQ(food->item, "Bananas, raw");
+    EXPECT_EQ(food->item, "Puddings, banana, ready-to-eat");
     EXPECT_EQ(app.findByName("Done"), nullptr);
-    ASSERT_TRUE(turn(app, wheels(app.quickWindow()->contentItem())[0], 2));
-    EXPECT_NE(food->calorieAmt()->text(), "200");
+    ASSERT_TRUE(app.tabTo("Portions"));
+    app.key(Qt::Key_Down, 2);
+    EXPECT_EQ(food->calorieAmt()->text(), "108");
     EXPECT_EQ(AppState::shared().consumedValue, 0);
     app.saveScreenshot(idiom() + "-food-portion-browse");
 
@@ -142,11 +164,11 @@ TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
     ASSERT_TRUE(app.click("‹ Back"));
     auto* search = top<SearchFoodScreen>(1);
     ASSERT_NE(search, nullptr);
-    EXPECT_NE(app.findByName("Bananas, raw"), nullptr);
-    EXPECT_EQ(search->searchFoodTable()->indexPathForSelectedRow(), (IndexPath{0, 0}));
+    EXPECT_NE(app.findByName("Pepper, banana, raw"), nullptr);
+    EXPECT_EQ(search->searchFoodTable()->indexPathForSelectedRow(), (IndexPath{0, 1}));
     ASSERT_TRUE(app.click("Search"));
     ASSERT_TRUE(app.click("Cancel"));
-    EXPECT_EQ(app.findByName("Bananas, raw"), nullptr);
+    EXPECT_EQ(app.findByName("Pepper, banana, raw"), nullptr);
     EXPECT_FALSE(app.quickWindow()->activeFocusItem() && app.quickWindow()->activeFocusItem()->inherits("QQuickTextInput"));
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{"0 0"});
 }

@@ -67,6 +67,7 @@ Item {
             Keys.onEnterPressed: root.model.userPressedSearch()
             Keys.onEscapePressed: if (root.cancelShown) root.model.userPressedCancel()
             Accessible.name: root.model.placeholder
+            Accessible.ignored: !visible || !enabled
         }
     }
 

@@ -55,6 +55,7 @@ Item {
             }
             Accessible.role: Accessible.Animation
             Accessible.name: "In progress"
+            Accessible.ignored: !visible || !enabled
         }
 
         Image {
@@ -65,6 +66,7 @@ Item {
             source: visible ? Theme.imageUrl(root.model.imageName) : ""
             Accessible.role: Accessible.Graphic
             Accessible.name: visible && root.model.imageName.endsWith("success-color") ? "Success" : "Error"
+            Accessible.ignored: !visible || !enabled
         }
 
         Text {
@@ -82,6 +84,7 @@ Item {
             elide: Text.ElideRight
             Accessible.role: Accessible.StaticText
             Accessible.name: text
+            Accessible.ignored: !visible || !enabled
         }
     }
 }

@@ -4,7 +4,8 @@ import CalorieKit
 // Renders a TableView as a virtualized list: only the rows on screen (and a few about to come)
 // exist, each drawing the cell its data source made for it, with the table's header view
 // scrolling above the first row and each section's header view staying at the top while its
-// rows pass. A tap, Return or Space on the current row, or a screen reader's press selects it.
+// rows pass. A tap, Return or Space on the row that has the keyboard, or a screen reader's press
+// selects it.
 Item {
     id: root
     property TableView model: TableView {}
@@ -16,6 +17,11 @@ Item {
     // For layouts: how many rows the table has now (all sections), and where they begin.
     readonly property int rowCount: list.count
     readonly property real headerHeight: list.headerItem ? list.headerItem.height : 0
+    // Where Tab enters the rows, after the header view's controls: the row that has the keyboard,
+    // or else the first on screen. The keyboard goes to the row itself, so that assistive
+    // technology hears the row as focused; the arrows take it from row to row.
+    readonly property int tabRow: list.currentIndex >= 0 ? list.currentIndex : Math.max(0, list.count
+        && list.indexAt(list.width / 2, Math.max(0, list.contentY) + rowHeight / 2))
 
     visible: !model.hidden
     clip: true
@@ -31,6 +37,7 @@ Item {
         highlightFollowsCurrentItem: false
         onMovementStarted: scrolling.stop()  // a finger on the list takes over from a glide
         Accessible.role: Accessible.List
+        Accessible.ignored: !visible || !enabled
 
         header: Loader {
             readonly property View view: root.model.tableHeaderView
@@ -113,21 +120,36 @@ Item {
                 anchors.fill: parent
                 color: "transparent"
                 border { width: 2; color: Theme.tint }
-                visible: row.ListView.isCurrentItem && keys.activeFocus
+                visible: row.activeFocus
             }
             MouseArea {
                 anchors.fill: parent
-                onClicked: {
-                    list.currentIndex = row.index
-                    root.model.userSelectedRow(row.index)
-                }
+                onClicked: root.model.userSelectedRow(row.index)
             }
 
+            // The list's current row is the one with the keyboard, and none while the keyboard is
+            // elsewhere: the list gives its current row the keyboard whenever it makes it anew,
+            // which would take it from a field in the header view as the rows change.
+            activeFocusOnTab: index === root.tabRow
+            onActiveFocusChanged: {
+                if (activeFocus) list.currentIndex = index
+                else if (list.currentIndex === index) list.currentIndex = -1
+            }
+            Keys.onUpPressed: root.moveKeyboard(-1)
+            Keys.onDownPressed: root.moveKeyboard(1)
+            Keys.onReturnPressed: root.model.userSelectedRow(index)
+            Keys.onEnterPressed: root.model.userSelectedRow(index)
+            Keys.onSpacePressed: root.model.userSelectedRow(index)
+
+            // Selected, to a screen reader, is the row with the keyboard while there is one, else
+            // the table's selection.
             Accessible.role: Accessible.ListItem
             Accessible.name: row.cell ? row.cell.textLabel.text : ""
+            Accessible.focusable: true
             Accessible.selectable: true
-            Accessible.selected: row.selected
-            Accessible.onPressAction: root.model.userSelectedRow(row.index)
+            Accessible.selected: activeFocus || (selected && list.currentIndex < 0)
+            Accessible.ignored: !visible || !enabled
+            Accessible.onPressAction: if (visible && enabled) root.model.userSelectedRow(index)
         }
 
         // Rows not yet made stand where the list estimates them, and sections' headers make
@@ -145,22 +167,10 @@ Item {
         }
     }
 
-    // The keyboard's way in: Tab here, the arrows move the current row, Return or Space selects
-    // it. Not the list itself, whose focus would pass straight on to a field in its header view.
-    Item {
-        id: keys
-        activeFocusOnTab: true
-        function move(by) {
-            list.currentIndex = Math.max(0, Math.min(list.count - 1, list.currentIndex + by))
-            list.positionViewAtIndex(list.currentIndex, ListView.Contain)
-        }
-        onActiveFocusChanged: if (activeFocus && list.currentIndex < 0) move(0)
-        Keys.onUpPressed: move(-1)
-        Keys.onDownPressed: move(1)
-        Keys.onReturnPressed: root.model.userSelectedRow(list.currentIndex)
-        Keys.onEnterPressed: root.model.userSelectedRow(list.currentIndex)
-        Keys.onSpacePressed: root.model.userSelectedRow(list.currentIndex)
-        Accessible.ignored: true  // the rows speak for themselves
+    function moveKeyboard(by) {
+        list.currentIndex = Math.max(0, Math.min(list.count - 1, list.currentIndex + by))
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
+        if (list.currentItem) list.currentItem.forceActiveFocus()
     }
 
     Connections {
