@@ -1,5 +1,3 @@
 import QtQuick
-import "qrc:/ui"
 
-KitScreen {
-}
+CustomEntryScreen { pad: true }

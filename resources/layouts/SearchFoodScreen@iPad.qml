@@ -1,5 +1,3 @@
 import QtQuick
-import "qrc:/ui"
 
-KitScreen {
-}
+SearchFoodScreen { pad: true }

@@ -15,11 +15,14 @@ int fontSize(double letterHeight) {
 
 int letterAt(double y, double letterHeight) {
     constexpr int kLast = static_cast<int>(kLetters.size()) - 1;
+    // A bar not yet laid out (zero or NaN height) has every touch past its end; a negative
+    // height is no bar at all.
+    if (letterHeight < 0) return 0;
+    if (!(letterHeight > 0)) return kLast;
     // The rounding to float is the bar's own: 29.999999999 / 10 lands on letter 3, not 2.
     const float cell = std::floor(static_cast<float>(std::fabs(y) / letterHeight));
-    // Written so that NaN (0 / 0: a bar not yet laid out) counts as past the end too.
+    // Written so that NaN (an infinite y) counts as past the end too.
     if (!(cell < static_cast<float>(kLetters.size()))) return kLast;
-    if (cell < 0) return 0;  // a negative height is no bar at all
     return static_cast<int>(cell);
 }
 

@@ -18,6 +18,8 @@
 #include "ui/DatePicker.h"
 #include "ui/ShapeLayer.h"
 #include "ui/TextLayer.h"
+#include "ui/SearchBar.h"
+#include "ui/TableView.h"
 
 void registerKitTypes() {
     constexpr const char* uri = "CalorieKit";
@@ -45,4 +47,7 @@ void registerKitTypes() {
     qmlRegisterUncreatableType<ObjectListModel>(uri, 1, 0, "ObjectListModel", fromCode);
     qmlRegisterType<LiveRowsModel>(uri, 1, 0, "LiveRowsModel");
     qmlRegisterType<TextLayer>(uri, 1, 0, "TextLayer");
+    qmlRegisterType<TableView>(uri, 1, 0, "TableView");
+    qmlRegisterType<SearchBar>(uri, 1, 0, "SearchBar");
+    qmlRegisterUncreatableType<TableViewCell>(uri, 1, 0, "TableViewCell", fromCode);
 }

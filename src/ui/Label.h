@@ -12,6 +12,8 @@ class Label : public View {
     KIT_PROPERTY(int, textAlignment, setTextAlignment);
     KIT_PROPERTY(QString, fontName, setFontName);  // empty: the layout's font
     KIT_PROPERTY(qreal, fontSize, setFontSize);    // 0: the layout's size
+    // One line, its font made smaller as far as needed for the text to fit the label's width.
+    KIT_PROPERTY(bool, adjustsFontSizeToFitWidth, setAdjustsFontSizeToFitWidth);
 
 public:
     explicit Label(QObject* parent = nullptr) : View(parent) {}

@@ -17,10 +17,13 @@ class View : public QObject {
     KIT_PROPERTY(int, tag, setTag);
     // One renderer per subview, made or destroyed as each is added or removed.
     Q_PROPERTY(ObjectListModel* subviews READ subviewModel CONSTANT)
+    // The class name: a view placed by itself (a table's header) is drawn by "Kit" + kind.
+    Q_PROPERTY(QString kind READ kind CONSTANT)
 
 public:
     explicit View(QObject* parent = nullptr) : QObject(parent) {}
 
+    QString kind() const { return QString::fromLatin1(metaObject()->className()); }
     const QList<QObject*>& subviews() const;
     // Made on first use: most views never hold subviews.
     ObjectListModel* subviewModel();

@@ -12,6 +12,7 @@
 #include "exercise/BrowseExerciseScreen.h"
 #include "exercise/ExerciseScreen.h"
 #include "food/CustomEntryScreen.h"
+#include "food/FoodScreen.h"
 #include "food/SearchFoodScreen.h"
 #include "setup/MeasureUnitScreen.h"
 #include "setup/BirthdayScreen.h"
@@ -38,6 +39,7 @@ const std::map<QString, Factory>& screens() {
         {"LogScreen", make<LogScreen>()},
         {"SearchFoodScreen", make<SearchFoodScreen>()},
         {"CustomEntryScreen", make<CustomEntryScreen>()},
+        {"FoodScreen", make<FoodScreen>()},
         {"ExerciseScreen", make<ExerciseScreen>()},
         {"BrowseExerciseScreen", make<BrowseExerciseScreen>()},
         {"MoreScreen", make<MoreScreen>()},

@@ -9,10 +9,12 @@ Text {
     visible: !model.hidden
     text: model.text
     color: model.textColor
-    wrapMode: Text.WordWrap
+    wrapMode: model.adjustsFontSizeToFitWidth ? Text.NoWrap : Text.WordWrap
+    fontSizeMode: model.adjustsFontSizeToFitWidth ? Text.HorizontalFit : Text.FixedSize
+    minimumPixelSize: 8
     verticalAlignment: Text.AlignVCenter  // a label centres its text in its frame
     horizontalAlignment: [Text.AlignLeft, Text.AlignHCenter, Text.AlignRight, Text.AlignJustify][model.textAlignment] ?? Text.AlignLeft
-    font.family: model.fontName && Qt.fontFamilies().indexOf(model.fontName) >= 0 ? model.fontName : Theme.fontFamily
+    font.family: model.fontName && Theme.hasFont(model.fontName) ? model.fontName : Theme.fontFamily
     font.weight: model.fontName.endsWith("-Thin") ? Font.Thin : Font.Normal
     font.pixelSize: model.fontSize > 0 ? model.fontSize : 17
 

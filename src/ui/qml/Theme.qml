@@ -13,5 +13,9 @@ QtObject {
     readonly property real tabBarHeight: 49
     readonly property string fontFamily: "DejaVu Sans"
 
+    // The font families of this machine, asked once: a label may name one it lacks.
+    readonly property var fontFamilies: Qt.fontFamilies()
+    function hasFont(family) { return fontFamilies.indexOf(family) >= 0 }
+
     function imageUrl(name) { return name ? "qrc:/images/" + name + ".png" : "" }
 }

@@ -1,0 +1,17 @@
+#pragma once
+// The program's bar buttons: custom buttons with a red title, framed at the origin, not darkened
+// when pressed, calling an action of the screen on touch-up-inside.
+
+#include "ui/Colors.h"
+#include "ui/NavigationItem.h"
+
+template <class Screen>
+BarButtonItem* redBarButtonItem(const char* title, qreal width, Screen* screen, void (Screen::*action)()) {
+    auto* button = new Button;
+    button->setTitle(title);
+    button->setTitleColor(redColor());
+    button->setFrame(QRectF(0, 0, width, 38));
+    button->setAdjustsImageWhenHighlighted(false);
+    QObject::connect(button, &Button::touchUpInside, screen, action);
+    return new BarButtonItem(button);
+}
