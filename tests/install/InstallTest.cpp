@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 #include <filesystem>
 
 #include "support/Fixtures.h"
@@ -99,6 +100,17 @@ TEST_F(Installed, TheDesktopFindsItsEntryIconMetainfoAndManPage) {
     // The metainfo, and the desktop entry it names as its launchable, as a software centre reads them.
     const Ran tree = run("appstreamcli", {"validate-tree", "--no-net", installed("")});
     EXPECT_EQ(tree.exitCode, 0) << tree.out.toStdString() << tree.err.toStdString();
+    // Its screenshots are the README's pictures: each URL names one that exists.
+    QFile metainfo(installed("share/metainfo/" + appId + ".metainfo.xml"));
+    ASSERT_TRUE(metainfo.open(QIODevice::ReadOnly));
+    const QString xml = QString::fromUtf8(metainfo.readAll());
+    int pictures = 0;
+    for (const auto& image : QRegularExpression("<image>[^<]*/([^/<]+)</image>").globalMatch(xml)) {
+        ++pictures;
+        EXPECT_TRUE(QFile::exists(SOURCE_DIR "/docs/screenshots/" + image.captured(1)))
+            << image.captured(1).toStdString();
+    }
+    EXPECT_GT(pictures, 0);
 
     EXPECT_TRUE(QFile::exists(installed("bin/" + desktopValue(entry, "Exec"))));
     const QString icon = desktopValue(entry, "Icon");
