@@ -1,6 +1,6 @@
 # The two commands people need: `make run` and `make test`. Everything installs what it needs.
 # `make run ARGS="--idiom pad"` passes options to the app.
-.PHONY: test run bench fuzz fuzz-build deps food-db format clean
+.PHONY: test run bench package fuzz fuzz-build deps food-db format clean
 
 # Each fuzzer runs a few seconds over its seeds first, so a reintroduced fault is caught; the
 # main suite comes last, and its summary closes the output.
@@ -20,6 +20,12 @@ bench: deps
 	cmake --build --preset release
 	# Repetitions of a benchmark and its floor interleave, so a busy moment hits both alike.
 	cd build/release/bin && ./calorie-bench --benchmark_enable_random_interleaving=true
+
+# The Debian package, from a Release build of the program alone: build/package/calorie-counter_*.deb.
+package: deps
+	cmake --preset package
+	cmake --build --preset package
+	@ls build/package/calorie-counter_*.deb
 
 # `make fuzz FUZZ_SECONDS=600` fuzzes longer. New inputs go to build/fuzz/fuzz/corpus, crashes to
 # build/fuzz/fuzz/crashes; copy an input worth keeping into fuzz/corpus/ as a seed.

@@ -15,6 +15,7 @@ CommandLineResult parseCommandLine(const QStringList& arguments) {
     parser.setApplicationDescription(
         "A calorie counter: book what you eat and burn against a daily budget.");
     const QCommandLineOption help({"h", "help"}, "Show this help and exit.");
+    const QCommandLineOption version("version", "Show the version and exit.");
     const QCommandLineOption idiom("idiom", "Device idiom: phone (320x568) or pad (768x1024).",
                                    "phone|pad", "phone");
     const QCommandLineOption screen("screen", "Window size in points, overriding the idiom's.",
@@ -30,10 +31,11 @@ CommandLineResult parseCommandLine(const QStringList& arguments) {
     const QCommandLineOption report("report-startup",
                                     "For benchmarks: print the time to the first frame of the first "
                                     "screen and the resident memory, then quit.");
-    parser.addOptions({help, idiom, screen, dataDir, log, hold, screenshot, report});
+    parser.addOptions({help, version, idiom, screen, dataDir, log, hold, screenshot, report});
 
     if (!parser.parse(arguments)) return fail(parser.errorText());
     if (parser.isSet(help)) return {std::nullopt, 0, parser.helpText()};
+    if (parser.isSet(version)) return {std::nullopt, 0, "calorie-counter " CC_VERSION};
     if (!parser.positionalArguments().isEmpty())
         return fail("Unexpected argument: " + parser.positionalArguments().first());
 

@@ -13,6 +13,8 @@
 int main(int argc, char** argv) {
     QGuiApplication::setApplicationName("calorie-counter");
     QGuiApplication::setOrganizationName("calorie-counter");
+    // Lets the desktop match the window to its desktop entry, and so show its name and icon.
+    QGuiApplication::setDesktopFileName(CC_APP_ID);
     QGuiApplication app(argc, argv);
     QQuickStyle::setStyle("Basic");
 
