@@ -45,12 +45,10 @@ void BrowseExerciseScreen::viewDidLoad() {
 
     if (onTodayTab()) {
         setTitle("Add Exercise");
-        Button* done = barButton("Done", 50);
-        connect(done, &Button::touchUpInside, this, &BrowseExerciseScreen::DoneButton);
-        navigationItem()->setRightBarButtonItem(new BarButtonItem(done));
-        Button* cancel = barButton("Cancel", 70);
-        connect(cancel, &Button::touchUpInside, this, &BrowseExerciseScreen::CancelButton);
-        navigationItem()->setLeftBarButtonItem(new BarButtonItem(cancel));
+        navigationItem()->setRightBarButtonItem(
+            redBarButtonItem("Done", 50, this, &BrowseExerciseScreen::DoneButton));
+        navigationItem()->setLeftBarButtonItem(
+            redBarButtonItem("Cancel", 70, this, &BrowseExerciseScreen::CancelButton));
     }
 
     ih2 = numbers(60);

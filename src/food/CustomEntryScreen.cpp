@@ -7,7 +7,7 @@
 #include "store/Formatted.h"
 #include "store/TextValue.h"
 #include "ui/Application.h"
-#include "ui/BarButtons.h"
+#include "ui/BarButton.h"
 #include "ui/NavigationController.h"
 
 CustomEntryScreen::CustomEntryScreen(const QString& layoutName, QObject* parent)

@@ -11,14 +11,11 @@ void WizardScreen::previousButton() {
 
 void WizardScreen::addBarButtons(int buttons) {
     if (buttons & Next) {
-        Button* next = barButton("Next", 40);
-        connect(next, &Button::touchUpInside, this, &WizardScreen::nextButton);
-        navigationItem()->setRightBarButtonItem(new BarButtonItem(next));
+        navigationItem()->setRightBarButtonItem(redBarButtonItem("Next", 40, this, &WizardScreen::nextButton));
     }
     if (buttons & Previous) {
-        Button* previous = barButton("Previous", 70);
-        connect(previous, &Button::touchUpInside, this, &WizardScreen::previousButton);
-        navigationItem()->setLeftBarButtonItem(new BarButtonItem(previous));
+        navigationItem()->setLeftBarButtonItem(
+            redBarButtonItem("Previous", 70, this, &WizardScreen::previousButton));
     }
 }
 
