@@ -46,6 +46,10 @@ def named(name, role=None):
     return lambda n: n.name == name and (role is None or n.getRole() == role)
 
 
+def showing(name, role):
+    return lambda n: n.name == name and n.getRole() == role and has_state(n, pyatspi.STATE_SHOWING)
+
+
 def of_role(role):
     return lambda n: n.getRole() == role
 
@@ -81,6 +85,15 @@ def act(node, *names):
 
 def press(app, name, role=pyatspi.ROLE_PUSH_BUTTON):
     act(wait_for(app, named(name, role), "no %s named %r" % (role, name)), "press")
+
+
+def absent(app, names, what, timeout=30):
+    """Waits until no node in the tree, shown or not, bears one of names."""
+    wait_until(lambda: not {n.name for n in walk(app)} & names, what, timeout)
+
+
+def key(symbol):
+    pyatspi.Registry.generateKeyboardEvent(symbol, None, pyatspi.KEY_SYM)
 
 
 def type_text(text):

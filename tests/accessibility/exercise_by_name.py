@@ -10,13 +10,9 @@ import sys
 
 import pyatspi
 
-from atspi_tree import Failure, act, find, find_app, has_state, named, press, run, wait_for, wait_until
+from atspi_tree import Failure, act, find, find_app, named, press, run, showing, wait_for, wait_until
 
 PER_HOUR = 704  # "Rugby", as the list pairs it
-
-
-def showing(name, role):
-    return lambda n: n.name == name and n.getRole() == role and has_state(n, pyatspi.STATE_SHOWING)
 
 
 def turn_up(app, wheel_name, times):
