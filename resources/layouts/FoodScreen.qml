@@ -59,7 +59,8 @@ KitScreen {
             KitPickerView {
                 id: picker
                 width: parent.width
-                height: 216 * layout.unit
+                // Lower on the phone, so a four-line name still leaves the caption above the tabs.
+                height: layout.pad ? 324 : 190
                 model: layout.screen.selectPicker
                 font.pixelSize: 21 * layout.unit
             }
