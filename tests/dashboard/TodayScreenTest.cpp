@@ -18,10 +18,7 @@ protected:
         app.launch();
         ASSERT_EQ(AppState::shared().todayIndex, 2);
     }
-    NavigationController* todayTab() {
-        return AppState::shared().tabBarController->viewControllers()[0];
-    }
-    TodayScreen* screen() { return qobject_cast<TodayScreen*>(todayTab()->viewControllers()[0]); }
+    TodayScreen* screen() { return qobject_cast<TodayScreen*>(tab(0)->viewControllers()[0]); }
     void appearAgain() { screen()->beginAppearance(true, false); }
     // Calories left, eaten and burned, then the marks: mid, max1, max and top.
     QStringList shown() {
@@ -110,11 +107,11 @@ TEST_F(Today, OptionSheetsLeadToTheEntryScreens) {
         EXPECT_EQ(screen()->actiondoor()->tag(), r.exerciseMenu ? 103 : 102);
         screen()->actiondoor()->clickButtonAtIndex(r.index);
         EXPECT_TRUE(window->presented().isEmpty());
-        const ViewController* top = todayTab()->topViewController();
+        const ViewController* top = tab(0)->topViewController();
         EXPECT_STREQ(top->metaObject()->className(), r.screenClass);
         EXPECT_EQ(top->layoutName(), r.screenClass);
         EXPECT_EQ(state.customEntryIsExercise, r.exerciseAfter);
-        todayTab()->popToRootViewController(false);
+        tab(0)->popToRootViewController(false);
     }
 }
 

@@ -31,12 +31,7 @@ protected:
     static std::pair<int32_t, int32_t> day() {
         return {AppState::shared().consumedValue, AppState::shared().burnedValue};
     }
-    std::vector<std::string> saved(int id) {
-        const std::string sql =
-            "SELECT calorieConsumed || ' ' || calorieBurned FROM dailyData WHERE id = " +
-            std::to_string(id);
-        return queryColumn(app.databasePath(), sql.c_str());
-    }
+    std::string saved(int id) { return dayInFile(app.databasePath(), id); }
     static Button* barButton(BrowseExerciseScreen* screen, bool right) {
         const NavigationItem* bar = screen->navigationItem();
         const BarButtonItem* item = right ? bar->rightBarButtonItem() : bar->leftBarButtonItem();
@@ -95,12 +90,12 @@ TEST_F(Duration, FromTodayEveryTurnBooksTheTotalShownUntilDoneSavesIt) {
     barButton(aerobics, false)->sendTouchUpInside();
     EXPECT_EQ(tab(0)->topViewController(), boxing);
     EXPECT_EQ(day(), std::pair(1240 - 1558, 100 + 1558));
-    EXPECT_EQ(saved(2), std::vector<std::string>{"1240 100"});
+    EXPECT_EQ(saved(2), "1240 100");
 
     AppState::shared().dayIndex = 1;
     barButton(boxing, true)->sendTouchUpInside();
-    EXPECT_EQ(saved(1), std::vector<std::string>{"-318 1658"});
-    EXPECT_EQ(saved(2), std::vector<std::string>{"1240 100"});
+    EXPECT_EQ(saved(1), "-318 1658");
+    EXPECT_EQ(saved(2), "1240 100");
     const std::vector<DayRow>& rows = AppState::shared().dailyRows;
     const auto yesterday =
         std::find_if(rows.begin(), rows.end(), [](const DayRow& row) { return row[0] == "1"; });

@@ -3,11 +3,8 @@
 
 #include "exercise/BrowseExerciseScreen.h"
 #include "store/AppState.h"
+#include "support/AppHarness.h"
 #include "ui/TabBarController.h"
-
-inline NavigationController* tab(int index) {
-    return AppState::shared().tabBarController->viewControllers()[index];
-}
 
 // Selects the tab first, as a person is on it when choosing an activity.
 inline BrowseExerciseScreen* pushDuration(int tabIndex, const QString& name, const QString& perHour,

@@ -11,21 +11,16 @@ namespace {
 class CustomEntry : public testing::Test {
 protected:
     void SetUp() override { app.launch(); }
-    NavigationController* todayTab() { return AppState::shared().tabBarController->viewControllers()[0]; }
     void enter(bool exercise, const char* text) {
         AppState::shared().customEntryIsExercise = exercise;
-        todayTab()->pushViewController(new CustomEntryScreen("CustomEntryScreen"), false);
-        auto* screen = qobject_cast<CustomEntryScreen*>(todayTab()->topViewController());
+        tab(0)->pushViewController(new CustomEntryScreen("CustomEntryScreen"), false);
+        auto* screen = qobject_cast<CustomEntryScreen*>(tab(0)->topViewController());
         EXPECT_TRUE(screen->calorieTxt()->firstResponder());
         screen->calorieTxt()->setText(text);
         screen->nextButton();
-        EXPECT_EQ(todayTab()->viewControllers().size(), 1);
+        EXPECT_EQ(tab(0)->viewControllers().size(), 1);
     }
-    // Consumed and burned of day id, as the file holds them.
-    std::string day(int id) {
-        return queryColumn(app.databasePath(), ("SELECT calorieConsumed || ' ' || calorieBurned FROM dailyData "
-                                                "WHERE id = " + std::to_string(id)).c_str())[0];
-    }
+    std::string day(int id) { return dayInFile(app.databasePath(), id); }
 
     AppHarness app{{.firstTime = QString("no")}};
 };

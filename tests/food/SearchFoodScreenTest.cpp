@@ -13,10 +13,9 @@ namespace {
 class SearchFood : public testing::Test {
 protected:
     void SetUp() override { app.launch(); }
-    NavigationController* todayTab() { return AppState::shared().tabBarController->viewControllers()[0]; }
     SearchFoodScreen* push() {
-        todayTab()->pushViewController(new SearchFoodScreen("SearchFoodScreen"), false);
-        return qobject_cast<SearchFoodScreen*>(todayTab()->topViewController());
+        tab(0)->pushViewController(new SearchFoodScreen("SearchFoodScreen"), false);
+        return qobject_cast<SearchFoodScreen*>(tab(0)->topViewController());
     }
     static int64_t rows(SearchFoodScreen* screen) { return screen->searchFoodTable()->numberOfRowsInSection(0); }
 
@@ -76,12 +75,12 @@ TEST_F(SearchFood, ARepeatedNameOpensWithItsFirstEntry) {
     ASSERT_EQ(rows(screen), 2);
 
     screen->searchFoodTable()->userSelectedRow(1);
-    auto* food = qobject_cast<FoodScreen*>(todayTab()->topViewController());
+    auto* food = qobject_cast<FoodScreen*>(tab(0)->topViewController());
     ASSERT_NE(food, nullptr);
     EXPECT_EQ(food->item + " " + food->item1 + " " + food->foodItemUnit, "Bananas, raw 200 1 cup, mashed (225 g)");
     EXPECT_TRUE(log.contains("Bananas, raw 200"));
 
-    todayTab()->popViewController(false);
+    tab(0)->popViewController(false);
     EXPECT_EQ(rows(screen), 2);
     EXPECT_EQ(screen->searchFoodTable()->indexPathForSelectedRow(), (IndexPath{0, 1}));
 }

@@ -10,6 +10,7 @@
 #include <filesystem>
 
 #include "store/AppState.h"
+#include "ui/TabBarController.h"
 
 namespace {
 
@@ -157,4 +158,8 @@ QString AppHarness::saveScreenshot(const QString& name) {
     const QString path = folder + "/" + name + ".png";
     grab().save(path);
     return path;
+}
+
+NavigationController* tab(int index) {
+    return AppState::shared().tabBarController->viewControllers()[index];
 }

@@ -78,3 +78,7 @@ private:
     TempDir dir_;
     std::unique_ptr<AppDelegate> delegate_;
 };
+
+class NavigationController;
+// The navigation controller of tab index (0 is Today) in the running app.
+NavigationController* tab(int index);

@@ -100,3 +100,10 @@ void writePlan(const std::string& path, Instant start, const char* budget, int d
     }
     execSql(path, sql.c_str());
 }
+
+std::string dayInFile(const std::string& path, int64_t id) {
+    const std::string sql =
+        "SELECT calorieConsumed || ' ' || calorieBurned FROM dailyData WHERE id = " + std::to_string(id);
+    const std::vector<std::string> rows = queryColumn(path, sql.c_str());
+    return rows.empty() ? std::string() : rows[0];
+}

@@ -69,6 +69,9 @@ Instant utc(const char* text);
 void execSql(const std::string& path, const char* sql);
 // The first column of every row of a query, as text.
 std::vector<std::string> queryColumn(const std::string& path, const char* sql);
+// Day id's consumed and burned calories as the file holds them, "consumed burned"; empty when
+// there is no such day.
+std::string dayInFile(const std::string& path, int64_t id);
 
 // A plan as set-up leaves it in a copy of the shipped food.db: the budget and starting date in
 // the profile row, and day rows 0 to days - 1 labelled "EEEE MMMM d", nothing booked.

@@ -18,10 +18,6 @@ bool settledHidden() {
     return QTest::qWaitFor([] { return !StatusOverlay::shared().isShown(); }, 3000);
 }
 
-NavigationController* tab(int index) {
-    return AppState::shared().tabBarController->viewControllers()[index];
-}
-
 // Three days into a 1850-calorie plan, with calories booked yesterday and today.
 class Dashboard : public testing::TestWithParam<bool> {
 protected:

@@ -19,19 +19,9 @@
 
 namespace {
 
-NavigationController* tab(int index) {
-    return AppState::shared().tabBarController->viewControllers()[index];
-}
-
 template <class Screen>
 Screen* top(int tabIndex) {
     return qobject_cast<Screen*>(tab(tabIndex)->topViewController());
-}
-
-// The day's consumed and burned calories as the file holds them.
-std::vector<std::string> dayInFile(const std::string& db, int64_t day) {
-    return queryColumn(db, ("SELECT calorieConsumed || ' ' || calorieBurned FROM dailyData WHERE id = " +
-                            std::to_string(day)).c_str());
 }
 
 // What assistive technology reads of the named control: a wheel's value is the number it shows.
@@ -117,7 +107,7 @@ TEST_P(Food, SearchedAndPortionedFromTodayIsBooked) {
     ASSERT_TRUE(overlayGone());
     EXPECT_EQ(tab(0)->viewControllers().size(), 1);
     EXPECT_NE(app.findByName(QString("%1 Cal").arg(booked)), nullptr);
-    EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{std::to_string(booked) + " 0"});
+    EXPECT_EQ(dayInFile(app.databasePath(), 0), std::to_string(booked) + " 0");
 }
 
 // By keyboard alone this time: type, Tab past Cancel into the results, an arrow down, Return.
@@ -170,7 +160,7 @@ TEST_P(Food, SearchedFromTheFoodTabOnlyCalculates) {
     ASSERT_TRUE(app.click("Cancel"));
     EXPECT_EQ(app.findByName("Pepper, banana, raw"), nullptr);
     EXPECT_FALSE(app.quickWindow()->activeFocusItem() && app.quickWindow()->activeFocusItem()->inherits("QQuickTextInput"));
-    EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{"0 0"});
+    EXPECT_EQ(dayInFile(app.databasePath(), 0), "0 0");
 }
 
 TEST_P(Food, CustomCaloriesEatenAndBurned) {
@@ -193,7 +183,7 @@ TEST_P(Food, CustomCaloriesEatenAndBurned) {
     ASSERT_TRUE(overlayGone());
     EXPECT_NE(app.findByName("900 Cal"), nullptr);
     EXPECT_NE(app.findByName("300 Cal"), nullptr);
-    EXPECT_EQ(dayInFile(app.databasePath(), 0), std::vector<std::string>{"900 300"});
+    EXPECT_EQ(dayInFile(app.databasePath(), 0), "900 300");
 }
 
 INSTANTIATE_TEST_SUITE_P(Idioms, Food, testing::Values(false, true),
