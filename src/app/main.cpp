@@ -2,6 +2,7 @@
 #include <QGuiApplication>
 #include <QQuickStyle>
 #include <cstdio>
+#include <memory>
 
 #include "app/AppDelegate.h"
 #include "app/DataFolderLock.h"
@@ -10,15 +11,42 @@
 #include "store/DevLog.h"
 #include "store/ProgramEnd.h"
 
+namespace {
+
+QtMessageHandler previousHandler = nullptr;
+
+// Qt ends the process from inside the application's constructor when it finds no display: it
+// ends with the reason and status 1, as the program does elsewhere, not with an abort.
+void endOnFatal(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type == QtFatalMsg) endProgram(message.toStdString());
+    if (previousHandler) previousHandler(type, context, message);
+}
+
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool answerOnly) {
+    if (answerOnly) return std::make_unique<QCoreApplication>(argc, argv);
+    previousHandler = qInstallMessageHandler(endOnFatal);
+    auto app = std::make_unique<QGuiApplication>(argc, argv);
+    qInstallMessageHandler(previousHandler);
+    return app;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     QGuiApplication::setApplicationName("calorie-counter");
     QGuiApplication::setOrganizationName("calorie-counter");
     // Lets the desktop match the window to its desktop entry, and so show its name and icon.
     QGuiApplication::setDesktopFileName(CC_APP_ID);
-    QGuiApplication app(argc, argv);
+    // --help and --version answer without a display (over ssh, for help2man): the GUI
+    // platform, which ends the process when there is none, is needed only to start.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+    const CommandLineResult early = parseCommandLine(arguments);
+    const bool answerOnly = !early.options && early.exitCode == 0;
+    const std::unique_ptr<QCoreApplication> app = makeApplication(argc, argv, answerOnly);
     QQuickStyle::setStyle("Basic");
 
-    const CommandLineResult parsed = parseCommandLine(app.arguments());
+    const CommandLineResult parsed = parseCommandLine(app->arguments());
     if (!parsed.options) {
         std::fprintf(parsed.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(parsed.message));
         if (parsed.exitCode != 0) std::fprintf(stderr, "Try --help.\n");
@@ -35,5 +63,5 @@ int main(int argc, char** argv) {
     AppDelegate delegate(options);
     delegate.didFinishLaunchingWithOptions();
     StartupReport report(delegate.quickWindow(), options);
-    return app.exec();
+    return app->exec();
 }

@@ -71,6 +71,39 @@ void expectEndedWithStatusOne(QProcess& process) {
     EXPECT_EQ(process.exitCode(), 1);
 }
 
+// --help and --version answer where no window can be shown, as over ssh; a start there ends
+// with the reason, not an abort.
+TEST(Program, AnswersHelpAndVersionWithoutADisplayAndOtherwiseSaysWhyItCannotStart) {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QT_QPA_PLATFORM", "xcb");
+    env.remove("DISPLAY");
+    env.insert("ASAN_OPTIONS", "detect_leaks=0:abort_on_error=1");
+    struct Ran {
+        int status;
+        QString out, err;
+    };
+    const auto run = [&](const QStringList& arguments) {
+        QProcess process;
+        process.setProcessEnvironment(env);
+        process.start(CALORIE_COUNTER_BIN, arguments);
+        EXPECT_TRUE(process.waitForFinished(kDeadlineMs));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << arguments.join(' ').toStdString();
+        return Ran{process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),
+                   QString::fromLocal8Bit(process.readAllStandardError())};
+    };
+    const Ran version = run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.out.startsWith("calorie-counter ")) << version.out.toStdString();
+    const Ran help = run({"--idiom", "pad", "--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.out.contains("calorie-counter [options]") && help.out.contains("--data-dir"))
+        << help.out.toStdString();
+    // A data folder named like the option is a start, and a start needs the display.
+    const Ran start = run({"--data-dir", "--help"});
+    EXPECT_EQ(start.status, 1);
+    EXPECT_TRUE(start.err.contains("calorie-counter: This application failed to start")) << start.err.toStdString();
+}
+
 TEST(Program, WhereItCannotGoOnItEndsWithStatusOneAndNamesTheCauseAndTheFile) {
     struct Case {
         const char* breakage;
