@@ -14,7 +14,6 @@
 #include "exercise/ExerciseCatalogue.h"
 #include "exercise/IndexBarMapping.h"
 #include "exercise/SectionIndexBar.h"
-#include "ui/Kit.h"
 
 namespace {
 
@@ -133,16 +132,15 @@ protected:
     void SetUp() override {
         qmlWarnings.clear();
         previousHandler = qInstallMessageHandler(collect);
-        registerKitTypes();
         bar.setDelegate(&delegate);
         bar.setIndexes(catalogueSections());
         QQmlComponent component(&engine);
         component.setData(R"(import QtQuick
-                             import "qrc:/exercise"
+                             import CalorieCounter.Exercise
                              Window {
-                                 property QtObject barModel
+                                 property SectionIndexBar barModel
                                  width: 100; height: 400; color: "white"; visible: true
-                                 KitSectionIndexBar { model: barModel; x: 40; y: 11; width: 20; height: 378 }
+                                 SectionIndexBarView { model: barModel; x: 40; y: 11; width: 20; height: 378 }
                              })",
                           QUrl("qrc:/IndexBarTest.qml"));
         ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();

@@ -14,10 +14,12 @@ class SearchFood : public testing::Test {
 protected:
     void SetUp() override { app.launch(); }
     SearchFoodScreen* push() {
-        tab(0)->pushViewController(new SearchFoodScreen("SearchFoodScreen"), false);
+        tab(0)->pushViewController(new SearchFoodScreen, false);
         return qobject_cast<SearchFoodScreen*>(tab(0)->topViewController());
     }
-    static int64_t rows(SearchFoodScreen* screen) { return screen->searchFoodTable()->numberOfRowsInSection(0); }
+    static int64_t rows(SearchFoodScreen* screen) {
+        return screen->searchFoodTable()->numberOfRowsInSection(0);
+    }
 
     AppHarness app{{.firstTime = QString("no")}};
 };
@@ -40,7 +42,8 @@ TEST_F(SearchFood, EveryChangeSearchesAfreshAndEmptyTextOrCancelIsIdle) {
     const int64_t narrowed = rows(screen);
     EXPECT_GT(narrowed, 0);
     EXPECT_LT(narrowed, ap);
-    EXPECT_EQ(AppState::shared().foodNames[screen->indexOfTheObject], screen->searchresultID.at(narrowed - 1));
+    EXPECT_EQ(AppState::shared().foodNames[screen->indexOfTheObject],
+              screen->searchresultID.at(narrowed - 1));
     TableViewCell* cell = screen->searchFoodTable()->cellForRow(0);
     EXPECT_EQ(cell->textLabel()->text().toStdString(), screen->searchresultID.at(0));
     EXPECT_EQ(cell->textLabel()->fontName(), "HelveticaNeue-Thin");
@@ -77,7 +80,8 @@ TEST_F(SearchFood, ARepeatedNameOpensWithItsFirstEntry) {
     screen->searchFoodTable()->userSelectedRow(1);
     auto* food = qobject_cast<FoodScreen*>(tab(0)->topViewController());
     ASSERT_NE(food, nullptr);
-    EXPECT_EQ(food->item + " " + food->item1 + " " + food->foodItemUnit, "Bananas, raw 200 1 cup, mashed (225 g)");
+    EXPECT_EQ(food->item + " " + food->item1 + " " + food->foodItemUnit,
+              "Bananas, raw 200 1 cup, mashed (225 g)");
     EXPECT_TRUE(log.contains("Bananas, raw 200"));
 
     tab(0)->popViewController(false);

@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QTimeZone>
 
-#include "app/TabBar.h"
+#include "app/tabs/TabBar.h"
 #include "setup/BirthdayScreen.h"
 #include "setup/WizardApp.h"
 
