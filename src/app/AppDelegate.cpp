@@ -114,7 +114,8 @@ void AppDelegate::showLaunchImage() {
     quickWindow_->setTitle("Calorie Counter");
     quickWindow_->resize(options_.screen);
     quickWindow_->show();
-    waitForFrame();
+    // The launch image is drawn only to be held; without a hold the first screen replaces it.
+    if (options_.launchHoldMs > 0) waitForFrame();
 }
 
 void AppDelegate::waitForFrame() {

@@ -75,7 +75,7 @@ View* ExerciseScreen::tableViewViewForHeaderInSection(int64_t section) {
     auto* label = new Label;
     label->setFrame(QRectF(0, 0, 768, 20));
     label->setBackgroundColor(Theme::tint());
-    label->setTextColor(Qt::white);
+    label->setTextColor(Theme::onTint());
     label->setFontName("Arial-Bold");
     label->setFontSize(13);
     label->setText(text(checkedAt(catalogue_->sections(), section, "sections")));

@@ -5,6 +5,7 @@
 #include "store/DevLog.h"
 #include "ui/NavigationController.h"
 #include "ui/TabBarController.h"
+#include "ui/Theme.h"
 
 namespace {
 const QString kCell = QStringLiteral("Cell");
@@ -36,7 +37,7 @@ void SearchFoodScreen::viewDidLoad() {
     searchFoodTable_.setTableHeaderView(&searchBarOut_);
     hits_.clear();
     catalogue_ = FoodSearch::of(AppState::shared().foodNames);
-    searchFoodTable_.setBackgroundColor(Qt::transparent);
+    searchFoodTable_.setBackgroundColor(Theme::clear());
 }
 
 int64_t SearchFoodScreen::tableViewNumberOfRowsInSection(int64_t) {
@@ -47,7 +48,7 @@ TableViewCell* SearchFoodScreen::tableViewCellForRowAtIndexPath(IndexPath indexP
     DEVLOG("%li", static_cast<long>(indexPath.row));
     TableViewCell* cell = searchFoodTable_.dequeueReusableCellWithIdentifier(kCell);
     if (!cell) cell = new TableViewCell(TableViewCell::Style::Default, kCell);
-    cell->setBackgroundColor(Qt::transparent);
+    cell->setBackgroundColor(Theme::clear());
     const std::string& text =
         search ? searchresultID.at(indexPath.row)
                : checkedAt(AppState::shared().foodNames, indexPath.row, "foodNames");

@@ -117,6 +117,7 @@ TEST_F(ExerciseList, IndexCallbacksScrollToSectionsTheTableHas) {
 // carry the search's own per-hour values. The search button keeps the results; the empty text
 // and Cancel go back to browsing.
 TEST_F(ExerciseList, SearchingListsHitsWithTheirSearchValuesUntilClearedOrCancelled) {
+    EXPECT_EQ(screen->emptyListHint(), "");  // browsing is never empty
     bar()->userBeganEditing();
     EXPECT_TRUE(bar()->showsCancelButton());
     bar()->userChangedText("running");
@@ -137,6 +138,7 @@ TEST_F(ExerciseList, SearchingListsHitsWithTheirSearchValuesUntilClearedOrCancel
     bar()->userChangedText("Darts, indoors");
     EXPECT_EQ(table()->numberOfSections(), 1);
     EXPECT_EQ(table()->numberOfRowsInSection(0), 0);
+    EXPECT_EQ(screen->emptyListHint(), "No activity has this in its name.");
     EXPECT_TRUE(screen->indexBar()->hidden());
 
     bar()->userChangedText("horse");
@@ -149,6 +151,7 @@ TEST_F(ExerciseList, SearchingListsHitsWithTheirSearchValuesUntilClearedOrCancel
     EXPECT_TRUE(screen->indexBar()->hidden());
 
     bar()->userChangedText("");
+    EXPECT_EQ(screen->emptyListHint(), "");
     EXPECT_FALSE(screen->search);
     EXPECT_FALSE(screen->indexBar()->hidden());
     EXPECT_EQ(table()->numberOfSections(), 20);

@@ -111,6 +111,17 @@ TEST(SectionIndexBar, TouchesFlashTheLetterAndNameItsSection) {
                   (QList{5, 14, 17, 24, 25, 26, 0}.contains(n)))
             << n;
     }
+    // As the renderer plays it: to grey 180 and back, half a second each way, easing out and
+    // then the same curve backwards; a key that holds no animation plays nothing.
+    const ColourFlash flash = letters[5]->colourFlash("myAnimation");
+    EXPECT_TRUE(flash.valid && flash.reverses);
+    EXPECT_EQ(flash.to, QColor(180, 180, 180));
+    EXPECT_EQ(std::tuple(flash.duration, flash.loops), std::tuple(500, 1));
+    EXPECT_EQ(flash.curve, (QList<qreal>{0, 0, 0.58, 1, 1, 1}));
+    ASSERT_EQ(flash.backCurve.size(), 6);
+    for (int i = 0; i < 6; ++i)
+        EXPECT_NEAR(flash.backCurve[i], (QList<qreal>{0.42, 0, 1, 1, 1, 1}[i]), 1e-9);
+    EXPECT_FALSE(letters[1]->colourFlash("myAnimation").valid);
 
     // A touch before any layout flashes nothing and counts as one below the bar.
     delegate.sections.clear();

@@ -33,6 +33,8 @@ TEST_F(SearchFood, EveryChangeSearchesAfreshAndEmptyTextOrCancelIsIdle) {
     SearchBar* bar = screen->searchBarOut();
     EXPECT_EQ(screen->searchFoodTable()->tableHeaderView(), bar);
     EXPECT_EQ(rows(screen), 0);
+    const QString typeHint = screen->emptyListHint();
+    EXPECT_TRUE(typeHint.startsWith("Type part of a food's name")) << typeHint.toStdString();
 
     bar->userBeganEditing();
     EXPECT_TRUE(bar->showsCancelButton());
@@ -51,8 +53,10 @@ TEST_F(SearchFood, EveryChangeSearchesAfreshAndEmptyTextOrCancelIsIdle) {
     bar->userPressedSearch();  // only the keyboard goes
     EXPECT_FALSE(bar->firstResponder());
     EXPECT_EQ(rows(screen), narrowed);
+    EXPECT_EQ(screen->emptyListHint(), "No food of the catalogue has this in its name.");
     bar->userChangedText("");
     EXPECT_EQ(rows(screen), 0);
+    EXPECT_EQ(screen->emptyListHint(), typeHint);
     EXPECT_EQ(int64_t(screen->searchresult.size()), narrowed);
     bar->userChangedText("ap");
     EXPECT_EQ(rows(screen), ap);

@@ -34,6 +34,7 @@ TEST(SelectDate, FinishesSetUpInOnePressAndAgainOnTheNext) {
         std::tie(state.heightCm, state.heightFeet, state.heightInches) =
             std::tuple(175, c.feet, c.inches);
         auto* screen = app.start<BirthdayScreen>();
+        EXPECT_TRUE(screen->animatedView()->hidden());  // until the press
         screen->datePicker()->setYearMonthDay(1996, 12, 30);
         screen->selectDate(nullptr);
 

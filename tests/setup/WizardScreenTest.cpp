@@ -84,6 +84,7 @@ TEST(ChoiceSteps, Tag0IsTheFirstAnswerAnyOtherTheSecondAndTheLastCounts) {
     auto* unit = app.start<MeasureUnitScreen>();
     auto* gender = new GenderScreen;
     app.nav()->pushViewController(gender, false);
+    EXPECT_EQ(gender->maleLbl()->text() + gender->femaleLbl()->text(), "MaleFemale");
     for (int tag : {7, 0}) {
         Button choice;
         choice.setTag(tag);

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls.impl
-import QtQuick.Layouts
 import CalorieCounter.Kit
 
 // Renders a TabBarController: the selected tab's navigation stack over a bar of tab buttons.
@@ -19,6 +18,8 @@ Rectangle {
         required property NavigationController modelData
         required property int index
         readonly property bool selected: index === root.controller.selectedIndex
+        anchors.fill: parent
+        visible: selected
         property bool visited: false
         readonly property KitNavigationView stack: stacks.count > 0 ? stacks.itemAt(0) as KitNavigationView : null
         onSelectedChanged: if (selected) visited = true
@@ -35,9 +36,8 @@ Rectangle {
         }
     }
 
-    StackLayout {
+    Item {
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: bar.top }
-        currentIndex: root.controller.selectedIndex
         Repeater {
             id: tabs
             model: root.controller.viewControllers
