@@ -2,12 +2,14 @@
 # `make run ARGS="--idiom pad"` passes options to the app.
 .PHONY: test run bench package fuzz fuzz-build deps food-db format clean
 
-# Each fuzzer runs a few seconds over its seeds first, so a reintroduced fault is caught; the
-# main suite comes last, and its summary closes the output.
+# Each fuzzer runs a few seconds over its seeds first, so a reintroduced fault is caught; qmllint
+# fails the run on any warning in the QML modules; the main suite comes last, and its summary
+# closes the output.
 test: deps fuzz-build
 	ctest --preset fuzz
 	cmake --preset debug-asan
 	cmake --build --preset debug-asan
+	cmake --build --preset debug-asan --target all_qmllint
 	ctest --preset debug-asan
 
 run: deps

@@ -33,8 +33,9 @@ void loads(benchmark::State& state, const std::function<ViewController*()>& make
     PassTimes times;
     for (auto _ : state) {
         ViewController* screen = nullptr;
-        times.add(state, app.actAndDraw([&] { app.tab(0)->pushViewController(screen = make(), false); },
-                                        [&] { return ready(screen); }));
+        times.add(state,
+                  app.actAndDraw([&] { app.tab(0)->pushViewController(screen = make(), false); },
+                                 [&] { return ready(screen); }));
         app.tab(0)->popViewController(false);
         runEventsFor(30);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -43,14 +44,16 @@ void loads(benchmark::State& state, const std::function<ViewController*()>& make
 }
 
 void BM_EmptyScreenLoadFloor(benchmark::State& state) {
-    loads(state, [] { return new ViewController("Empty"); }, [](ViewController*) { return true; });
+    loads(
+        state, [] { return new ViewController; }, [](ViewController*) { return true; });
 }
 
 void BM_ExerciseViewLoad(benchmark::State& state) {
-    loads(state, [] { return new ExerciseScreen(layoutFor("ExerciseScreen")); },
-          [](ViewController* screen) {
-              return static_cast<ExerciseScreen*>(screen)->plainTableView()->rows()->rowCount() > 0;
-          });
+    loads(
+        state, [] { return new ExerciseScreen; },
+        [](ViewController* screen) {
+            return static_cast<ExerciseScreen*>(screen)->plainTableView()->rows()->rowCount() > 0;
+        });
 }
 
 // The item that renders model.
@@ -64,7 +67,8 @@ QQuickItem* rendererOf(QQuickItem* item, QObject* model) {
 void click(QQuickWindow* window, QPointF at) {
     for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         QMouseEvent event(type, at, at, window->mapToGlobal(at.toPoint()), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                          Qt::NoModifier);
         QCoreApplication::sendEvent(window, &event);
     }
 }
@@ -72,7 +76,7 @@ void click(QQuickWindow* window, QPointF at) {
 // Touches the letters in turn (0 is "#"), each after the glide before it has ended.
 void touches(benchmark::State& state, const std::vector<int>& letters) {
     LaunchedApp app("bench-exercise");
-    auto* screen = new ExerciseScreen(layoutFor("ExerciseScreen"));
+    auto* screen = new ExerciseScreen;
     app.tab(0)->pushViewController(screen, false);
     runEventsFor(300);
     QQuickItem* bar = rendererOf(app.window()->contentItem(), screen->indexBar());
@@ -86,7 +90,8 @@ void touches(benchmark::State& state, const std::vector<int>& letters) {
     size_t next = 0;
     for (auto _ : state) {
         const int letter = letters[next++ % letters.size()];
-        const QPointF at = bar->mapToScene(QPointF(bar->width() / 2, (letter + 0.5) * bar->height() / 27));
+        const QPointF at =
+            bar->mapToScene(QPointF(bar->width() / 2, (letter + 0.5) * bar->height() / 27));
         times.add(state, app.actAndDraw([&] { click(app.window(), at); }));
         runEventsFor(600);
     }
@@ -95,9 +100,13 @@ void touches(benchmark::State& state, const std::vector<int>& letters) {
         state.SkipWithError("the touches did not scroll as their letters say");
 }
 
-void BM_IndexTouchFrameFloor(benchmark::State& state) { touches(state, {0}); }
+void BM_IndexTouchFrameFloor(benchmark::State& state) {
+    touches(state, {0});
+}
 // W, A, M, C, S, H: each far from the one before.
-void BM_IndexTouchFrame(benchmark::State& state) { touches(state, {23, 1, 13, 3, 19, 8}); }
+void BM_IndexTouchFrame(benchmark::State& state) {
+    touches(state, {23, 1, 13, 3, 19, 8});
+}
 
 void BM_ExerciseKeystrokeFrame_running(benchmark::State& state) {
     LaunchedApp app("bench-exercise");
@@ -107,11 +116,16 @@ void BM_ExerciseKeystrokeFrame_running(benchmark::State& state) {
     screen->searchBarOut()->becomeFirstResponder();
     app.keystrokes(state, "running");
     app.typeAndDraw(Qt::Key_G, "g");
-    if (screen->plainTableView()->numberOfRowsInSection(0) != 4) state.SkipWithError("the keystrokes did not search");
+    if (screen->plainTableView()->numberOfRowsInSection(0) != 4)
+        state.SkipWithError("the keystrokes did not search");
 }
 
 void configure(benchmark::internal::Benchmark* b, int times) {
-    b->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(times)->Repetitions(5)->ReportAggregatesOnly(true);
+    b->Unit(benchmark::kMillisecond)
+        ->UseManualTime()
+        ->Iterations(times)
+        ->Repetitions(5)
+        ->ReportAggregatesOnly(true);
 }
 
 BENCHMARK(BM_EmptyScreenLoadFloor)->Apply([](auto* b) { configure(b, kLoads); });

@@ -64,7 +64,8 @@ void floorPass(benchmark::State& state, const Catalogue& catalogue, const std::s
         const auto started = PassTimes::Clock::now();
         size_t hits = 0;
         for (const char* from = catalogue.folded.data(); from < end;) {
-            const auto* at = static_cast<const char*>(memmem(from, end - from, query.data(), query.size()));
+            const auto* at =
+                static_cast<const char*>(memmem(from, end - from, query.data(), query.size()));
             if (!at) break;
             ++hits;
             from = static_cast<const char*>(memchr(at, '\0', end - at)) + 1;
@@ -81,7 +82,7 @@ void screenPass(benchmark::State& state, const Catalogue& catalogue, const std::
     app.foodNames = catalogue.names;
     app.foodCalories = catalogue.calories;
     app.foodUnits = catalogue.units;
-    SearchFoodScreen screen("SearchFoodScreen");
+    SearchFoodScreen screen;
     screen.loadViewIfNeeded();
     const QString text = QString::fromStdString(query);
     PassTimes times;
@@ -95,7 +96,10 @@ void screenPass(benchmark::State& state, const Catalogue& catalogue, const std::
 }
 
 void configure(benchmark::internal::Benchmark* b) {
-    b->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(300)->Repetitions(5)
+    b->Unit(benchmark::kMicrosecond)
+        ->UseManualTime()
+        ->Iterations(300)
+        ->Repetitions(5)
         ->ReportAggregatesOnly(true);
 }
 
@@ -104,7 +108,8 @@ const bool registered = [] {
         for (const bool big : {false, true}) {
             std::string name = std::string(big ? "100k:" : "") + query;
             std::replace(name.begin(), name.end(), ' ', '_');
-            const std::string measured = "BM_FoodSearch:" + name, floor = "BM_FoodSearchFloor:" + name;
+            const std::string measured = "BM_FoodSearch:" + name,
+                              floor = "BM_FoodSearchFloor:" + name;
             const Catalogue& (*catalogue)() = big ? large : shipped;
             configure(benchmark::RegisterBenchmark(
                 floor.c_str(), [=](benchmark::State& s) { floorPass(s, catalogue(), query); }));

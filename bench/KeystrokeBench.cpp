@@ -16,7 +16,7 @@ constexpr int kKeystrokes = 30;
 
 void BM_KeystrokeFrameFloor(benchmark::State& state) {
     LaunchedApp app("bench-keystroke");
-    app.tab(0)->pushViewController(new CustomEntryScreen(layoutFor("CustomEntryScreen")), false);
+    app.tab(0)->pushViewController(new CustomEntryScreen, false);
     runEventsFor(300);
     app.keystrokes(state, "1");
 }
@@ -30,15 +30,23 @@ void searchKeystrokes(benchmark::State& state, const QString& word) {
     app.keystrokes(state, word);
     // The keys reached the field and searched: the word once more finds rows.
     app.typeAndDraw(Qt::Key(word.back().toUpper().unicode()), word.back());
-    if (search->searchBarOut()->text() != word || search->searchFoodTable()->numberOfRowsInSection(0) == 0)
+    if (search->searchBarOut()->text() != word ||
+        search->searchFoodTable()->numberOfRowsInSection(0) == 0)
         state.SkipWithError("the keystrokes did not search");
 }
 
-void BM_KeystrokeFrame_a(benchmark::State& state) { searchKeystrokes(state, "a"); }
-void BM_KeystrokeFrame_apple(benchmark::State& state) { searchKeystrokes(state, "apple"); }
+void BM_KeystrokeFrame_a(benchmark::State& state) {
+    searchKeystrokes(state, "a");
+}
+void BM_KeystrokeFrame_apple(benchmark::State& state) {
+    searchKeystrokes(state, "apple");
+}
 
 void configure(benchmark::internal::Benchmark* b) {
-    b->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(kKeystrokes)->Repetitions(5)
+    b->Unit(benchmark::kMillisecond)
+        ->UseManualTime()
+        ->Iterations(kKeystrokes)
+        ->Repetitions(5)
         ->ReportAggregatesOnly(true);
 }
 

@@ -9,8 +9,6 @@
 #include <fstream>
 #include <string>
 
-#include "ui/Kit.h"
-
 void ensureGuiApplication() {
     if (QCoreApplication::instance()) return;
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
@@ -24,7 +22,6 @@ void ensureGuiApplication() {
     // caches, and crash on its way out.
     new QGuiApplication(argc, argv);
     QQuickStyle::setStyle("Basic");
-    registerKitTypes();
 }
 
 std::filesystem::path plannedDataFolder(const char* name) {

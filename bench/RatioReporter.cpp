@@ -19,13 +19,20 @@ double RatioReporter::Median::value(const std::string& counter) const {
     return found == counters.end() ? -1 : found->second;
 }
 
-void compare(Comparison comparison) { comparisons().push_back(std::move(comparison)); }
-void limit(Limit l) { limits().push_back(std::move(l)); }
+void compare(Comparison comparison) {
+    comparisons().push_back(std::move(comparison));
+}
+void limit(Limit l) {
+    limits().push_back(std::move(l));
+}
 
 void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
-        if (run.aggregate_name != "median") continue;
+        if (run.error_occurred) failed_.insert(run.run_name.function_name);
+        // A benchmark run once takes its medians itself (e.g. of many process starts).
+        const bool single = run.run_type == Run::RT_Iteration && run.repetitions <= 1;
+        if (run.aggregate_name != "median" && !single) continue;
         Median& median = medians_[run.run_name.function_name];
         // Adjusted times are in the run's unit; milliseconds is what every target speaks.
         median.realMs =
@@ -37,7 +44,17 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
 bool RatioReporter::printRatios() const {
     bool allMet = true;
     std::printf("\n%-32s %-32s %9s %8s\n", "measured", "floor", "ratio", "target");
+    const auto named = [](const std::string& name, const std::string& counter) {
+        return counter.empty() ? name : name + " " + counter;
+    };
     for (const Comparison& c : comparisons()) {
+        if (failed_.contains(c.measured) || failed_.contains(c.floor)) {
+            allMet = false;
+            std::printf("%-32s %-32s %9s %8.2f FAILED\n",
+                        named(c.measured, c.measuredCounter).c_str(),
+                        named(c.floor, c.floorCounter).c_str(), "-", c.target);
+            continue;
+        }
         const auto measured = medians_.find(c.measured);
         const auto floor = medians_.find(c.floor);
         if (measured == medians_.end() || floor == medians_.end()) continue;
@@ -46,12 +63,11 @@ bool RatioReporter::printRatios() const {
         const double ratio = measured->second.value(c.measuredCounter) / floorValue;
         const bool met = c.target <= 0 || ratio <= c.target;
         allMet = allMet && met;
-        const auto named = [](const std::string& name, const std::string& counter) {
-            return counter.empty() ? name : name + " " + counter;
-        };
         std::printf("%-32s %-32s %9.3f %8.2f %s\n", named(c.measured, c.measuredCounter).c_str(),
                     named(c.floor, c.floorCounter).c_str(), ratio, c.target,
-                    c.target <= 0 ? "(no target)" : met ? "ok" : "MISSED");
+                    c.target <= 0 ? "(no target)"
+                    : met         ? "ok"
+                                  : "MISSED");
     }
     for (const Limit& l : limits()) {
         const auto found = medians_.find(l.benchmark);

@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -44,4 +45,5 @@ private:
         double value(const std::string& counter) const;
     };
     std::map<std::string, Median> medians_;  // by base benchmark name
+    std::set<std::string> failed_;           // benchmarks that reported an error
 };

@@ -29,7 +29,8 @@ void BM_SelectDateFloor(benchmark::State& state) {
         state.ResumeTiming();
         runBareStatement(path, "UPDATE profileData SET \"calorieBudget\"=\"1703\" WHERE id=2;");
         runBareStatement(
-            path, "UPDATE profileData SET \"startingDate\"=\"2026-11-15 09:30:00 +0000\" WHERE id=2;");
+            path,
+            "UPDATE profileData SET \"startingDate\"=\"2026-11-15 09:30:00 +0000\" WHERE id=2;");
         for (int id = 0; id < kDays; ++id)
             runBareStatement(path, dayInsertSql("Sunday November 15", id).c_str());
     }
@@ -65,7 +66,7 @@ void BM_SelectDate(benchmark::State& state) {
         app.goalWeightValue = 70.0f;
         app.heightCm = 175;
         auto delegate = std::make_unique<BenchApp>(folder);
-        auto* screen = new BirthdayScreen(layoutFor("BirthdayScreen"));
+        auto* screen = new BirthdayScreen;
         delegate->window()->setRootViewController(new NavigationController(screen));
         state.ResumeTiming();
 

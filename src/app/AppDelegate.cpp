@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include <QtQml/qqmlextensionplugin.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -9,12 +10,23 @@
 #include <QThread>
 #include <QTimer>
 
-#include "app/TabBar.h"
+#include "app/tabs/TabBar.h"
 #include "overlay/StatusOverlay.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
 #include "store/DevLog.h"
-#include "ui/Kit.h"
+#include "store/ProgramEnd.h"
+#include "ui/Theme.h"
+
+// The program's QML modules, linked in statically.
+Q_IMPORT_QML_PLUGIN(CalorieCounter_KitPlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_OverlayPlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_FoodPlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_ExercisePlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_DashboardPlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_SetupPlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_TabsPlugin)
+Q_IMPORT_QML_PLUGIN(CalorieCounter_AppPlugin)
 
 namespace {
 
@@ -35,13 +47,14 @@ QString dataFolderFor(const LaunchOptions& options) {
 
 AppDelegate::AppDelegate(const LaunchOptions& options, QObject* parent)
     : QObject(parent), options_(options), store_(AppState::shared()) {
-    registerKitTypes();
+    Theme::setPad(options_.pad);
     Application::setDelegate(this);
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState s) {
-        if (s == Qt::ApplicationActive) applicationDidBecomeActive();
-        if (s == Qt::ApplicationInactive) applicationWillResignActive();
-        if (s == Qt::ApplicationSuspended) applicationDidEnterBackground();
-    });
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState s) {
+                if (s == Qt::ApplicationActive) applicationDidBecomeActive();
+                if (s == Qt::ApplicationInactive) applicationWillResignActive();
+                if (s == Qt::ApplicationSuspended) applicationDidEnterBackground();
+            });
     connect(qGuiApp, &QCoreApplication::aboutToQuit, this, [this] { applicationWillTerminate(); });
     store_.setBeforeDailyUpdate([] { StatusOverlay::show(); });
     window_.setOverlay(&StatusOverlay::shared());
@@ -82,7 +95,7 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
         first = new TabBar;
     } else {
         DEVLOG("firstTime");
-        first = new MeasureUnitScreen(layoutFor("MeasureUnitScreen"));
+        first = new MeasureUnitScreen;
     }
     window_.setRootViewController(new NavigationController(first));
     window_.setBackgroundPatternImage(state.isPad ? "bgiPad" : "bg");
@@ -94,13 +107,15 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
 void AppDelegate::showLaunchImage() {
     engine_.setInitialProperties({{"model", QVariant::fromValue(&window_)},
                                   {"launchImage", options_.pad ? "launchiPad" : "launch"}});
-    engine_.load(QUrl("qrc:/ui/KitWindow.qml"));
+    // The root by module and type, as Qt 6.5's loadFromModule does; the type itself is compiled.
+    engine_.loadData("import CalorieCounter.App\nAppWindow {}");
     quickWindow_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));
-    if (!quickWindow_) qFatal("calorie-counter: the window's QML did not load");
+    if (!quickWindow_) endProgram("the window's QML did not load");
     quickWindow_->setTitle("Calorie Counter");
     quickWindow_->resize(options_.screen);
     quickWindow_->show();
-    waitForFrame();
+    // The launch image is drawn only to be held; without a hold the first screen replaces it.
+    if (options_.launchHoldMs > 0) waitForFrame();
 }
 
 void AppDelegate::waitForFrame() {

@@ -1,6 +1,6 @@
 #include "app/SplashScreen.h"
 
-#include "app/TabBar.h"
+#include "app/tabs/TabBar.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
 #include "store/DevLog.h"
@@ -18,7 +18,7 @@ void SplashScreen::viewDidLoad() {
         next = new TabBar;
     } else {
         DEVLOG("firstTime");
-        next = new MeasureUnitScreen(layoutFor("MeasureUnitScreen"));
+        next = new MeasureUnitScreen;
     }
     navigationController()->pushViewController(next, true);
 }

@@ -9,8 +9,8 @@ class SplashScreen : public ViewController {
 
 public:
     // pad: the device reports the tablet idiom; a device that cannot tell is a phone.
-    explicit SplashScreen(const QString& layoutName, bool pad = false, QObject* parent = nullptr)
-        : ViewController(layoutName, parent), pad_(pad) {}
+    explicit SplashScreen(bool pad = false, QObject* parent = nullptr)
+        : ViewController(parent), pad_(pad) {}
 
 protected:
     void viewDidLoad() override;

@@ -7,11 +7,17 @@
 
 namespace {
 
-QColor colour(const gauge::Rgb& rgb) { return QColor(rgb.red, rgb.green, rgb.blue); }
+QColor colour(const gauge::Rgb& rgb) {
+    return QColor(rgb.red, rgb.green, rgb.blue);
+}
 
-QRectF rect(const gauge::Rect& r) { return QRectF(r.x, r.y, r.width, r.height); }
+QRectF rect(const gauge::Rect& r) {
+    return QRectF(r.x, r.y, r.width, r.height);
+}
 
-QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
 
 Label* thinLabel(const gauge::Rect& frame, const std::string& value) {
     auto* label = new Label;
@@ -24,9 +30,8 @@ Label* thinLabel(const gauge::Rect& frame, const std::string& value) {
 
 }  // namespace
 
-DashboardScreen::DashboardScreen(const QString& layoutName, const gauge::GaugeGeometry& geometry,
-                                 QObject* parent)
-    : ViewController(layoutName, parent), geometry_(geometry) {}
+DashboardScreen::DashboardScreen(const gauge::GaugeGeometry& geometry, QObject* parent)
+    : ViewController(parent), geometry_(geometry) {}
 
 QRectF DashboardScreen::gaugeTrack() const {
     return QRectF(0, geometry_.barCentreY - geometry_.barThickness / 2, geometry_.width,
@@ -52,6 +57,11 @@ float DashboardScreen::showScaleMarks(bool longFormats) {
     midValue_.setText(text(marks.midText));
     ExtremeMaxValue_.setText(text(marks.topText));
     max1Value_.setText(text(marks.max1Text));
+    markPositions_.clear();
+    for (const std::string* mark :
+         {&marks.midText, &marks.max1Text, &marks.maxText, &marks.topText})
+        markPositions_.append(gauge::markPosition(*mark, marks.topText, geometry_.width));
+    emit markPositionsChanged();
     return marks.caloriesPerPoint;
 }
 

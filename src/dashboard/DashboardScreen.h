@@ -12,6 +12,8 @@
 
 class DashboardScreen : public ViewController {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(Label* dateLbl READ dateLbl CONSTANT)
     Q_PROPERTY(Label* midValue READ midValue CONSTANT)
     Q_PROPERTY(Label* maxValue READ maxValue CONSTANT)
@@ -24,6 +26,8 @@ class DashboardScreen : public ViewController {
     // of the budget labels, below which the scale can go.
     Q_PROPERTY(QRectF gaugeTrack READ gaugeTrack CONSTANT)
     Q_PROPERTY(qreal gaugeBottom READ gaugeBottom CONSTANT)
+    // Where the marks of midValue, max1Value, maxValue and ExtremeMaxValue stand along the track.
+    Q_PROPERTY(QList<qreal> markPositions READ markPositions NOTIFY markPositionsChanged)
 
 public:
     Label* dateLbl() { return &dateLbl_; }
@@ -36,6 +40,7 @@ public:
     Label* detailExercise() { return &detailExercise_; }
     QRectF gaugeTrack() const;
     qreal gaugeBottom() const;
+    QList<qreal> markPositions() const { return markPositions_; }
 
     // The current bar; replaced by every redraw.
     ShapeLayer* shapeLayer() const { return shapeLayer_; }
@@ -43,9 +48,11 @@ public:
     void drawYourToday();
     void drawYourGoal();
 
+signals:
+    void markPositionsChanged();
+
 protected:
-    DashboardScreen(const QString& layoutName, const gauge::GaugeGeometry& geometry,
-                    QObject* parent);
+    DashboardScreen(const gauge::GaugeGeometry& geometry, QObject* parent);
 
     // The view that the bar, the budget lines and their labels are added to.
     virtual View* canvas() = 0;
@@ -69,6 +76,7 @@ private:
     Label todayLable_;
     Label detailCalorie_;
     Label detailExercise_;
+    QList<qreal> markPositions_{0, 0, 0, 0};
     float a1_ = 0;
     gauge::BudgetLine goal_{};
     ShapeLayer* shapeLayer_ = nullptr;

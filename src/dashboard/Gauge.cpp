@@ -57,6 +57,11 @@ ScaleMarks scaleMarks(int32_t budget, float gaugeWidth, bool longFormats) {
     return marks;
 }
 
+double markPosition(const std::string& markText, const std::string& topText, double width) {
+    const double top = floatValue(topText);
+    return top > 0 ? floatValue(markText) / top * width : 0.0;
+}
+
 namespace {
 
 constexpr Rgb kBarColour{46, 139, 87};

@@ -40,6 +40,10 @@ struct GaugeGeometry {
 GaugeGeometry todayGeometry(bool isPad);
 GaugeGeometry logGeometry(bool isPad);
 
+// Where a scale mark stands along a gauge of width: the calories its text reads at the scale the
+// top mark's text sets; 0 on a degenerate scale.
+double markPosition(const std::string& markText, const std::string& topText, double width);
+
 // Length of the bar for the calories consumed; 0 on a degenerate scale.
 float barLength(float consumed, float caloriesPerPoint);
 

@@ -5,8 +5,8 @@
 #include "store/DevLog.h"
 #include "store/TextValue.h"
 
-LogScreen::LogScreen(const QString& layoutName, QObject* parent)
-    : DashboardScreen(layoutName, gauge::logGeometry(AppState::shared().isPad), parent) {
+LogScreen::LogScreen(QObject* parent)
+    : DashboardScreen(gauge::logGeometry(AppState::shared().isPad), parent) {
     setTitle("Log");
 }
 
@@ -24,7 +24,9 @@ void LogScreen::viewWillAppear(bool animated) {
     drawYourGoal();
 }
 
-void LogScreen::finalResult() { showDay(f_); }
+void LogScreen::finalResult() {
+    showDay(f_);
+}
 
 void LogScreen::nextBtn(Button*) {
     AppState& state = AppState::shared();
@@ -56,6 +58,6 @@ void LogScreen::loadDay() {
     const DayRow& row = dayRecord(state, state.dayIndex);
     state.burnedValue = intValue(row[3]);
     state.consumedValue = static_cast<int32_t>(integerValue(row[2]));
-    dateLbl()->setText(QString::fromStdString(state.dayIndex != state.todayIndex ? row[1]
-                                                                                 : state.shownDate));
+    dateLbl()->setText(
+        QString::fromStdString(state.dayIndex != state.todayIndex ? row[1] : state.shownDate));
 }

@@ -7,9 +7,11 @@
 
 class LogScreen : public DashboardScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
 
 public:
-    explicit LogScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit LogScreen(QObject* parent = nullptr);
 
     // Calories per point, kept from the last appearance for the redraws of stepping.
     float f() const { return f_; }

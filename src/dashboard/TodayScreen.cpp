@@ -11,9 +11,9 @@
 #include "store/DevLog.h"
 #include "store/TextValue.h"
 #include "ui/Application.h"
-#include "ui/Colors.h"
 #include "ui/MainScreen.h"
 #include "ui/TabBarController.h"
+#include "ui/Theme.h"
 #include "ui/Window.h"
 
 namespace {
@@ -33,13 +33,15 @@ constexpr Menu kMenus[] = {{kAddMenu, "Add Food", "Add Excercise"},
 
 }  // namespace
 
-TodayScreen::TodayScreen(const QString& layoutName, QObject* parent)
-    : DashboardScreen(layoutName, gauge::todayGeometry(AppState::shared().isPad), parent) {
+TodayScreen::TodayScreen(QObject* parent)
+    : DashboardScreen(gauge::todayGeometry(AppState::shared().isPad), parent) {
     setTitle("Today");
 }
 
 // A sheet still on screen must leave the window before it goes with this screen.
-TodayScreen::~TodayScreen() { retireMenu(); }
+TodayScreen::~TodayScreen() {
+    retireMenu();
+}
 
 void TodayScreen::viewDidLoad() {
     DashboardScreen::viewDidLoad();
@@ -52,7 +54,7 @@ void TodayScreen::viewDidLoad() {
 
     auto* add = new Button;
     add->setImageName("addicon");
-    add->setTitleColor(redColor());
+    add->setTitleColor(Theme::tint());
     add->setFrame(QRectF(0, 0, 40, 38));
     add->setAdjustsImageWhenHighlighted(false);
     add->setAccessibleName("Add");
@@ -86,11 +88,17 @@ void TodayScreen::viewWillAppear(bool animated) {
     drawYourGoal();
 }
 
-void TodayScreen::AddButton() { showMenu(kAddMenu); }
+void TodayScreen::AddButton() {
+    showMenu(kAddMenu);
+}
 
-void TodayScreen::addFood(Button*) { showMenu(kFoodMenu); }
+void TodayScreen::addFood(Button*) {
+    showMenu(kFoodMenu);
+}
 
-void TodayScreen::addExcercise(Button*) { showMenu(kExerciseMenu); }
+void TodayScreen::addExcercise(Button*) {
+    showMenu(kExerciseMenu);
+}
 
 void TodayScreen::showMenu(int tag) {
     retireMenu();
@@ -128,18 +136,18 @@ void TodayScreen::actionSheetClickedButtonAtIndex(ActionSheet* sheet, int index)
             break;
         case kFoodMenu:
             if (index == 0) {
-                pushOnTodayTab(new SearchFoodScreen(layoutFor("SearchFoodScreen")));
+                pushOnTodayTab(new SearchFoodScreen);
             } else if (index == 1) {
                 state.customEntryIsExercise = false;
-                pushOnTodayTab(new CustomEntryScreen(layoutFor("CustomEntryScreen")));
+                pushOnTodayTab(new CustomEntryScreen);
             }
             break;
         case kExerciseMenu:
             if (index == 0) {
-                pushOnTodayTab(new ExerciseScreen(layoutFor("ExerciseScreen")));
+                pushOnTodayTab(new ExerciseScreen);
             } else if (index == 1) {
                 state.customEntryIsExercise = true;
-                pushOnTodayTab(new CustomEntryScreen(layoutFor("CustomEntryScreen")));
+                pushOnTodayTab(new CustomEntryScreen);
             }
             break;
         default:

@@ -9,10 +9,12 @@
 
 class TodayScreen : public DashboardScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(ScrollView* mainScroll READ mainScroll CONSTANT)
 
 public:
-    explicit TodayScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit TodayScreen(QObject* parent = nullptr);
     ~TodayScreen() override;
 
     ScrollView* mainScroll() { return &mainScroll_; }

@@ -22,8 +22,7 @@ std::vector<std::string> numbers(int count) {
 
 }  // namespace
 
-BrowseExerciseScreen::BrowseExerciseScreen(const QString& layoutName, QObject* parent)
-    : ViewController(layoutName, parent) {
+BrowseExerciseScreen::BrowseExerciseScreen(QObject* parent) : ViewController(parent) {
     selectPicker_.setDataSource(this);
     selectPicker_.setDelegate(this);
 }

@@ -20,19 +20,26 @@ class BrowseExerciseScreen : public ViewController,
                              public PickerViewDataSource,
                              public PickerViewDelegate {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(Label* Foodname READ Foodname CONSTANT)
     Q_PROPERTY(Label* calorieAmt READ calorieAmt CONSTANT)
     Q_PROPERTY(PickerView* selectPicker READ selectPicker CONSTANT)
     // Set before the screen is pushed: the activity's name and its calories per hour.
     KIT_PROPERTY(QString, item, setItem);
     KIT_PROPERTY(QString, item1, setItem1);
+    // "<item1> Cal per hour", or nothing before the activity is known.
+    Q_PROPERTY(QString perHourText READ perHourText NOTIFY item1Changed)
 
 public:
-    explicit BrowseExerciseScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit BrowseExerciseScreen(QObject* parent = nullptr);
 
     Label* Foodname() { return &Foodname_; }
     Label* calorieAmt() { return &calorieAmt_; }
     PickerView* selectPicker() { return &selectPicker_; }
+    QString perHourText() const {
+        return item1().isEmpty() ? QString() : item1() + " Cal per hour";
+    }
 
     int64_t numberOfComponentsInPickerView() override { return 4; }
     int64_t pickerViewNumberOfRowsInComponent(int64_t component) override;

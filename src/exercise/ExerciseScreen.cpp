@@ -3,9 +3,9 @@
 #include "exercise/BrowseExerciseScreen.h"
 #include "store/Checked.h"
 #include "store/DevLog.h"
-#include "ui/Colors.h"
 #include "ui/Label.h"
 #include "ui/NavigationController.h"
+#include "ui/Theme.h"
 
 namespace {
 
@@ -17,11 +17,17 @@ QString text(const std::string& s) {
 
 }  // namespace
 
-ExerciseScreen::ExerciseScreen(const QString& layoutName, QObject* parent) : ViewController(layoutName, parent) {
+ExerciseScreen::ExerciseScreen(QObject* parent) : ViewController(parent) {
     setTitle("Exercise");
     plainTableView_.setDataSource(this);
     plainTableView_.setDelegate(this);
     searchBarOut_.setDelegate(this);
+    connect(&searchBarOut_, &SearchBar::textChanged, this, &ExerciseScreen::emptyListHintChanged);
+}
+
+QString ExerciseScreen::emptyListHint() const {
+    return searchBarOut_.text().isEmpty() ? QString()
+                                          : QStringLiteral("No activity has this in its name.");
 }
 
 void ExerciseScreen::viewDidLoad() {
@@ -29,7 +35,7 @@ void ExerciseScreen::viewDidLoad() {
     catalogue_.emplace();
     // The layout keeps the list clear of the bars, so there are no scroll insets to adjust.
     indexBar_.setDelegate(this);
-    if (NavigationController* nav = navigationController()) nav->setTintColor(redColor());
+    if (NavigationController* nav = navigationController()) nav->setTintColor(Theme::tint());
 }
 
 int64_t ExerciseScreen::numberOfSectionsInTableView() {
@@ -68,8 +74,8 @@ View* ExerciseScreen::tableViewViewForHeaderInSection(int64_t section) {
     header->setFrame(QRectF(0, 200, 768, 244));
     auto* label = new Label;
     label->setFrame(QRectF(0, 0, 768, 20));
-    label->setBackgroundColor(redColor());
-    label->setTextColor(Qt::white);
+    label->setBackgroundColor(Theme::tint());
+    label->setTextColor(Theme::onTint());
     label->setFontName("Arial-Bold");
     label->setFontSize(13);
     label->setText(text(checkedAt(catalogue_->sections(), section, "sections")));
@@ -81,7 +87,7 @@ void ExerciseScreen::tableViewDidSelectRowAtIndexPath(IndexPath indexPath) {
     const auto [name, perHour] = activityAt(indexPath);
     DEVLOG("%s %s", name.c_str(), perHour.c_str());
     plainTableView_.deselectRowAtIndexPath(indexPath, true);
-    auto* duration = new BrowseExerciseScreen(layoutFor("BrowseExerciseScreen"));
+    auto* duration = new BrowseExerciseScreen;
     duration->setItem(text(name));
     duration->setItem1(text(perHour));
     navigationController()->pushViewController(duration, true);

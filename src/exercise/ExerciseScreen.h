@@ -23,16 +23,21 @@ class ExerciseScreen : public ViewController,
                        public SearchBarDelegate,
                        public SectionIndexBarDelegate {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(TableView* plainTableView READ plainTableView CONSTANT)
     Q_PROPERTY(SectionIndexBar* indexBar READ indexBar CONSTANT)
     Q_PROPERTY(SearchBar* searchBarOut READ searchBarOut CONSTANT)
+    // What an empty list means while searching; nothing while browsing.
+    Q_PROPERTY(QString emptyListHint READ emptyListHint NOTIFY emptyListHintChanged)
 
 public:
-    explicit ExerciseScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit ExerciseScreen(QObject* parent = nullptr);
 
     TableView* plainTableView() { return &plainTableView_; }
     SectionIndexBar* indexBar() { return &indexBar_; }
     SearchBar* searchBarOut() { return &searchBarOut_; }
+    QString emptyListHint() const;
 
     // Gives the bar the section letters every time the table asks.
     int64_t numberOfSectionsInTableView() override;
@@ -55,6 +60,9 @@ public:
     // The last search's results; they outlive the search button and a return to browsing.
     const exercise::SearchResults& results() const { return results_; }
     bool search = false;  // the table shows the results, not the sections
+
+signals:
+    void emptyListHintChanged();
 
 protected:
     void viewDidLoad() override;

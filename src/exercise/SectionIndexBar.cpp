@@ -1,6 +1,7 @@
 #include "exercise/SectionIndexBar.h"
 
 #include "exercise/IndexBarMapping.h"
+#include "ui/Theme.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ QString text(std::string_view letter) {
 
 SectionIndexBar::SectionIndexBar(QObject* parent) : View(parent), shapeLayer_(this) {
     shapeLayer_.setLineWidth(1);
-    shapeLayer_.setFillColor(Qt::transparent);
+    shapeLayer_.setFillColor(Theme::clear());
     shapeLayer_.setStrokeColor(grey(218));
 }
 

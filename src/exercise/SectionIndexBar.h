@@ -32,6 +32,8 @@ protected:
 
 class SectionIndexBar : public View {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by its screen")
     Q_PROPERTY(ObjectListModel* sublayers READ sublayers CONSTANT)
     Q_PROPERTY(QStringList letters READ letterTitles CONSTANT)
     Q_PROPERTY(qreal letterHeight READ letterHeight NOTIFY laidOut)

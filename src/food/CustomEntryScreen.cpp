@@ -10,8 +10,7 @@
 #include "ui/BarButton.h"
 #include "ui/NavigationController.h"
 
-CustomEntryScreen::CustomEntryScreen(const QString& layoutName, QObject* parent)
-    : ViewController(layoutName, parent) {}
+CustomEntryScreen::CustomEntryScreen(QObject* parent) : ViewController(parent) {}
 
 void CustomEntryScreen::viewDidLoad() {
     ViewController::viewDidLoad();
@@ -20,8 +19,9 @@ void CustomEntryScreen::viewDidLoad() {
     detailLbl_.setText(exercise ? "Enter Amount of Calories burned" : "Enter Amount of Calories");
     calorieTxt_.setPlaceholder("Calories");
     calorieTxt_.becomeFirstResponder();
-    navigationItem()->setRightBarButtonItem(redBarButtonItem("Done", 50, this, &CustomEntryScreen::nextButton));
-    navigationController()->setTintColor(redColor());
+    navigationItem()->setRightBarButtonItem(
+        redBarButtonItem("Done", 50, this, &CustomEntryScreen::nextButton));
+    navigationController()->setTintColor(Theme::tint());
 }
 
 void CustomEntryScreen::nextButton() {
@@ -40,10 +40,13 @@ void CustomEntryScreen::nextButton() {
         addToDayTotal(state.consumedValue, -static_cast<int64_t>(n));
         DEVLOG("today Cal %d", state.consumedValue);
         store.UpdateDatabase1("calorieConsumed", consumed(), day);
-        store.UpdateDatabase1("calorieBurned", formatted("%li", static_cast<long>(state.burnedValue)), day);
+        store.UpdateDatabase1("calorieBurned",
+                              formatted("%li", static_cast<long>(state.burnedValue)), day);
     }
     store.readDataFromDatabaseMainTable();
     navigationController()->popViewController(true);
 }
 
-void CustomEntryScreen::previousButton() { navigationController()->popViewController(true); }
+void CustomEntryScreen::previousButton() {
+    navigationController()->popViewController(true);
+}

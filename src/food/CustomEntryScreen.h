@@ -9,11 +9,13 @@
 
 class CustomEntryScreen : public ViewController {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(Label* detailLbl READ detailLbl CONSTANT)
     Q_PROPERTY(TextField* calorieTxt READ calorieTxt CONSTANT)
 
 public:
-    explicit CustomEntryScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit CustomEntryScreen(QObject* parent = nullptr);
 
     Label* detailLbl() { return &detailLbl_; }
     TextField* calorieTxt() { return &calorieTxt_; }

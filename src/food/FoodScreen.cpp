@@ -12,7 +12,7 @@
 #include "ui/NavigationController.h"
 #include "ui/TabBarController.h"
 
-FoodScreen::FoodScreen(const QString& layoutName, QObject* parent) : ViewController(layoutName, parent) {
+FoodScreen::FoodScreen(QObject* parent) : ViewController(parent) {
     selectPicker_.setDataSource(this);
     selectPicker_.setDelegate(this);
 }
@@ -33,8 +33,10 @@ void FoodScreen::viewDidLoad() {
     cal2 = 0;
     if (booking()) {
         setTitle("Add Food");
-        navigationItem()->setRightBarButtonItem(redBarButtonItem("Done", 50, this, &FoodScreen::DoneButton));
-        navigationItem()->setLeftBarButtonItem(redBarButtonItem("Cancel", 70, this, &FoodScreen::CancelButton));
+        navigationItem()->setRightBarButtonItem(
+            redBarButtonItem("Done", 50, this, &FoodScreen::DoneButton));
+        navigationItem()->setLeftBarButtonItem(
+            redBarButtonItem("Cancel", 70, this, &FoodScreen::CancelButton));
     }
     ih1.clear();
     for (int portions = 0; portions <= 200; ++portions) ih1.push_back(formatted("%i", portions));
@@ -74,16 +76,20 @@ void FoodScreen::pickerViewDidSelectRowInComponent(int64_t row, int64_t componen
                                     floatValue(checkedAt(ih3, row, "ih3")));
         DEVLOG("%f", static_cast<double>(floatValue(checkedAt(ih2, row, "ih2"))));
     }
-    const auto amount = static_cast<int64_t>(static_cast<uint64_t>(cal) + static_cast<uint64_t>(cal2));
+    const auto amount =
+        static_cast<int64_t>(static_cast<uint64_t>(cal) + static_cast<uint64_t>(cal2));
     calorieAmt_.setText(QString::fromStdString(formatted("%li", static_cast<long>(amount))));
     // Every settled wheel adds what is shown, not the change: the program's own rule.
-    if (booking()) addToDayTotal(AppState::shared().consumedValue, integerValue(calorieAmt_.text().toStdString()));
+    if (booking())
+        addToDayTotal(AppState::shared().consumedValue,
+                      integerValue(calorieAmt_.text().toStdString()));
 }
 
 void FoodScreen::DoneButton() {
     AppState& state = AppState::shared();
     CalorieStore& store = Application::delegate()->store();
-    store.UpdateDatabase1("calorieConsumed", formatted("%li", static_cast<long>(state.consumedValue)),
+    store.UpdateDatabase1("calorieConsumed",
+                          formatted("%li", static_cast<long>(state.consumedValue)),
                           static_cast<int32_t>(state.dayIndex));
     store.readDataFromDatabaseMainTable();
     navigationController()->popToRootViewController(true);

@@ -15,13 +15,15 @@
 
 class FoodScreen : public ViewController, public PickerViewDataSource, public PickerViewDelegate {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(Label* Foodname READ Foodname CONSTANT)
     Q_PROPERTY(Label* calorieAmt READ calorieAmt CONSTANT)
     Q_PROPERTY(Label* labelFoodUnit READ labelFoodUnit CONSTANT)
     Q_PROPERTY(PickerView* selectPicker READ selectPicker CONSTANT)
 
 public:
-    explicit FoodScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit FoodScreen(QObject* parent = nullptr);
 
     Label* Foodname() { return &Foodname_; }
     Label* calorieAmt() { return &calorieAmt_; }
@@ -32,7 +34,8 @@ public:
     int64_t pickerViewNumberOfRowsInComponent(int64_t component) override;
     QString pickerViewTitleForRowForComponent(int64_t row, int64_t component) override;
     void pickerViewDidSelectRowInComponent(int64_t row, int64_t component) override;
-    // "Portions", "Fraction", and "Portions unit" for the blank wheel that stands where a unit would.
+    // "Portions", "Fraction", and "Portions unit" for the blank wheel that stands where a unit
+    // would.
     QString pickerViewAccessibilityLabelForComponent(int64_t component) override;
 
     // Set by the search before the screen is shown.

@@ -5,13 +5,14 @@
 #include "store/DevLog.h"
 #include "ui/NavigationController.h"
 #include "ui/TabBarController.h"
+#include "ui/Theme.h"
 
 namespace {
 const QString kCell = QStringLiteral("Cell");
 }
 
-SearchFoodScreen::SearchFoodScreen(const QString& layoutName, QObject* parent)
-    : ViewController(layoutName, parent),
+SearchFoodScreen::SearchFoodScreen(QObject* parent)
+    : ViewController(parent),
       searchresult(AppState::shared().foodNames, hits_, "foodNames"),
       searchresultID(AppState::shared().foodNames, hits_, "foodNames"),
       searchCalorie(AppState::shared().foodCalories, hits_, "foodCalories"),
@@ -20,6 +21,13 @@ SearchFoodScreen::SearchFoodScreen(const QString& layoutName, QObject* parent)
     searchFoodTable_.setDataSource(this);
     searchFoodTable_.setDelegate(this);
     searchBarOut_.setDelegate(this);
+    connect(&searchBarOut_, &SearchBar::textChanged, this, &SearchFoodScreen::emptyListHintChanged);
+}
+
+QString SearchFoodScreen::emptyListHint() const {
+    return searchBarOut_.text().isEmpty()
+               ? QStringLiteral("Type part of a food's name: \"apple\", \"rice\", \"cheddar\".")
+               : QStringLiteral("No food of the catalogue has this in its name.");
 }
 
 void SearchFoodScreen::viewDidLoad() {
@@ -29,7 +37,7 @@ void SearchFoodScreen::viewDidLoad() {
     searchFoodTable_.setTableHeaderView(&searchBarOut_);
     hits_.clear();
     catalogue_ = FoodSearch::of(AppState::shared().foodNames);
-    searchFoodTable_.setBackgroundColor(Qt::transparent);
+    searchFoodTable_.setBackgroundColor(Theme::clear());
 }
 
 int64_t SearchFoodScreen::tableViewNumberOfRowsInSection(int64_t) {
@@ -40,9 +48,10 @@ TableViewCell* SearchFoodScreen::tableViewCellForRowAtIndexPath(IndexPath indexP
     DEVLOG("%li", static_cast<long>(indexPath.row));
     TableViewCell* cell = searchFoodTable_.dequeueReusableCellWithIdentifier(kCell);
     if (!cell) cell = new TableViewCell(TableViewCell::Style::Default, kCell);
-    cell->setBackgroundColor(Qt::transparent);
-    const std::string& text = search ? searchresultID.at(indexPath.row)
-                                     : checkedAt(AppState::shared().foodNames, indexPath.row, "foodNames");
+    cell->setBackgroundColor(Theme::clear());
+    const std::string& text =
+        search ? searchresultID.at(indexPath.row)
+               : checkedAt(AppState::shared().foodNames, indexPath.row, "foodNames");
     cell->textLabel()->setText(QString::fromStdString(text));
     cell->textLabel()->setFontName("HelveticaNeue-Thin");
     cell->textLabel()->setFontSize(18);
@@ -52,7 +61,7 @@ TableViewCell* SearchFoodScreen::tableViewCellForRowAtIndexPath(IndexPath indexP
 void SearchFoodScreen::tableViewDidSelectRowAtIndexPath(IndexPath indexPath) {
     const int64_t row = indexPath.row;
     DEVLOG("%s %s", searchresultID.at(row).c_str(), searchCalorie.at(row).c_str());
-    auto* food = new FoodScreen(layoutFor("FoodScreen"));
+    auto* food = new FoodScreen;
     food->item = searchresultID.at(row);
     food->item1 = searchCalorie.at(row);
     food->foodItemUnit = searchFoodItemUnits.at(row);

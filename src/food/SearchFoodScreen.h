@@ -16,14 +16,19 @@ class SearchFoodScreen : public ViewController,
                          public TableViewDelegate,
                          public SearchBarDelegate {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(TableView* searchFoodTable READ searchFoodTable CONSTANT)
     Q_PROPERTY(SearchBar* searchBarOut READ searchBarOut CONSTANT)
+    // What an empty list means: nothing typed yet, or nothing found.
+    Q_PROPERTY(QString emptyListHint READ emptyListHint NOTIFY emptyListHintChanged)
 
 public:
-    explicit SearchFoodScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit SearchFoodScreen(QObject* parent = nullptr);
 
     TableView* searchFoodTable() { return &searchFoodTable_; }
     SearchBar* searchBarOut() { return &searchBarOut_; }
+    QString emptyListHint() const;
 
     int64_t tableViewNumberOfRowsInSection(int64_t section) override;
     TableViewCell* tableViewCellForRowAtIndexPath(IndexPath indexPath) override;
@@ -43,6 +48,9 @@ public:
     const ResultList searchFoodItemUnits;
     int64_t indexOfTheObject = 0;  // catalogue position of the latest hit
     bool search = false;           // a non-empty search text is in force
+
+signals:
+    void emptyListHintChanged();
 
 protected:
     void viewDidLoad() override;

@@ -4,6 +4,7 @@
 // from the main thread; KitStatusOverlay draws what it holds. Its state is its alpha: 0 hidden,
 // 1 shown. Sizing, placing and timing come from OverlayLayout; this object applies them.
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QFont>
 #include <QList>
@@ -24,6 +25,8 @@ class QVariantAnimation;
 
 class StatusOverlay : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("one shared object, made on first use")
     // The box and its parts exist: from a show until the end of the hide that follows.
     Q_PROPERTY(bool active READ active NOTIFY contentChanged)
     // A transparent layer over the window swallows touches while the box is up.

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "app/TabBar.h"
+#include "app/tabs/TabBar.h"
 #include "setup/CalorieBudget.h"
 #include "store/AppState.h"
 #include "store/CalorieStore.h"
@@ -15,9 +15,9 @@ namespace {
 constexpr int32_t kPlanDays = 366;
 }  // namespace
 
-BirthdayScreen::BirthdayScreen(const QString& layoutName, QObject* parent)
-    : WizardScreen(layoutName, parent) {
+BirthdayScreen::BirthdayScreen(QObject* parent) : WizardScreen(parent) {
     setTitle("Birthday");
+    animatedView_.setHidden(true);  // until selectDate begins
 }
 
 void BirthdayScreen::viewDidLoad() {

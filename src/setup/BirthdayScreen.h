@@ -10,12 +10,14 @@
 
 class BirthdayScreen : public WizardScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(DatePicker* datePicker READ datePicker CONSTANT)
     Q_PROPERTY(Label* dateLbl READ dateLbl CONSTANT)
     Q_PROPERTY(View* animatedView READ animatedView CONSTANT)
 
 public:
-    explicit BirthdayScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit BirthdayScreen(QObject* parent = nullptr);
 
     DatePicker* datePicker() { return &datePicker_; }
     Label* dateLbl() { return &dateLbl_; }

@@ -6,11 +6,14 @@
 
 class ChoiceScreen : public WizardScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(ImageView* check1 READ check1 CONSTANT)
     Q_PROPERTY(ImageView* check2 READ check2 CONSTANT)
 
 public:
-    using WizardScreen::WizardScreen;
+    // Neither answer is checked until one is chosen.
+    explicit ChoiceScreen(QObject* parent = nullptr);
 
     ImageView* check1() { return &check1_; }
     ImageView* check2() { return &check2_; }

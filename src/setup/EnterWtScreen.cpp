@@ -2,8 +2,7 @@
 
 #include "setup/GoalWeightScreen.h"
 
-EnterWtScreen::EnterWtScreen(const QString& layoutName, QObject* parent)
-    : WeightScreen(layoutName, parent) {
+EnterWtScreen::EnterWtScreen(QObject* parent) : WeightScreen(parent) {
     setTitle("Starting Weight");
 }
 

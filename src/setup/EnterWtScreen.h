@@ -5,10 +5,12 @@
 
 class EnterWtScreen : public WeightScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(TextField* enterWtTxt READ enterWtTxt CONSTANT)
 
 public:
-    explicit EnterWtScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit EnterWtScreen(QObject* parent = nullptr);
 
     TextField* enterWtTxt() { return field(); }
     void nextButton() override;

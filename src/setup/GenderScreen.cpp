@@ -3,7 +3,12 @@
 #include "setup/HeightScreen.h"
 #include "store/AppState.h"
 #include "store/DevLog.h"
-#include "ui/Colors.h"
+#include "ui/Theme.h"
+
+GenderScreen::GenderScreen(QObject* parent) : ChoiceScreen(parent) {
+    maleLbl_.setText("Male");
+    femaleLbl_.setText("Female");
+}
 
 void GenderScreen::viewDidLoad() {
     ChoiceScreen::viewDidLoad();
@@ -18,8 +23,8 @@ void GenderScreen::genderBtn(Button* sender) {
     // The unit words are what this step has always logged for the two genders.
     DEVLOG("%s", male ? "Metric" : "Imperial");
     choose(male);
-    maleLbl_.setTextColor(male ? redColor() : QColor(Qt::black));
-    femaleLbl_.setTextColor(male ? QColor(Qt::black) : redColor());
+    maleLbl_.setTextColor(male ? Theme::tint() : Theme::text());
+    femaleLbl_.setTextColor(male ? Theme::text() : Theme::tint());
 }
 
 void GenderScreen::nextButton() {

@@ -7,12 +7,13 @@
 
 class GenderScreen : public ChoiceScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(Label* maleLbl READ maleLbl CONSTANT)
     Q_PROPERTY(Label* femaleLbl READ femaleLbl CONSTANT)
 
 public:
-    explicit GenderScreen(const QString& layoutName, QObject* parent = nullptr)
-        : ChoiceScreen(layoutName, parent) {}
+    explicit GenderScreen(QObject* parent = nullptr);
 
     Label* maleLbl() { return &maleLbl_; }
     Label* femaleLbl() { return &femaleLbl_; }

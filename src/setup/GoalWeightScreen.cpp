@@ -4,8 +4,7 @@
 #include "store/AppState.h"
 #include "store/TextValue.h"
 
-GoalWeightScreen::GoalWeightScreen(const QString& layoutName, QObject* parent)
-    : WeightScreen(layoutName, parent) {
+GoalWeightScreen::GoalWeightScreen(QObject* parent) : WeightScreen(parent) {
     setTitle("Goal Weight");
 }
 

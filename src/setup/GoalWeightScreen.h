@@ -5,10 +5,12 @@
 
 class GoalWeightScreen : public WeightScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(TextField* enterGWtTxt READ enterGWtTxt CONSTANT)
 
 public:
-    explicit GoalWeightScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit GoalWeightScreen(QObject* parent = nullptr);
 
     TextField* enterGWtTxt() { return field(); }
     void nextButton() override;

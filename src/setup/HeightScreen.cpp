@@ -7,8 +7,7 @@
 #include "store/Formatted.h"
 #include "store/TextValue.h"
 
-HeightScreen::HeightScreen(const QString& layoutName, QObject* parent)
-    : WizardScreen(layoutName, parent) {
+HeightScreen::HeightScreen(QObject* parent) : WizardScreen(parent) {
     setTitle("Height");
     selectPicker_.setDataSource(this);
     selectPicker_.setDelegate(this);

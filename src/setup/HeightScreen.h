@@ -11,11 +11,13 @@
 
 class HeightScreen : public WizardScreen, public PickerViewDataSource, public PickerViewDelegate {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(PickerView* selectPicker READ selectPicker CONSTANT)
     Q_PROPERTY(Label* htLbl READ htLbl CONSTANT)
 
 public:
-    explicit HeightScreen(const QString& layoutName, QObject* parent = nullptr);
+    explicit HeightScreen(QObject* parent = nullptr);
 
     PickerView* selectPicker() { return &selectPicker_; }
     Label* htLbl() { return &htLbl_; }

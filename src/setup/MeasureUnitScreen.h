@@ -6,10 +6,11 @@
 
 class MeasureUnitScreen : public ChoiceScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
 
 public:
-    explicit MeasureUnitScreen(const QString& layoutName, QObject* parent = nullptr)
-        : ChoiceScreen(layoutName, parent) {}
+    explicit MeasureUnitScreen(QObject* parent = nullptr) : ChoiceScreen(parent) {}
 
     // Tag 0 is Metric, any other tag Imperial.
     Q_INVOKABLE void selectunit(Button* sender);

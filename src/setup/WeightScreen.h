@@ -8,6 +8,8 @@
 
 class WeightScreen : public WizardScreen {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     Q_PROPERTY(Label* wtLbl READ wtLbl CONSTANT)
 
 public:

@@ -7,6 +7,8 @@
 
 class WizardScreen : public ViewController {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
 
 public:
     using ViewController::ViewController;
@@ -33,7 +35,6 @@ protected:
     // A fresh instance of the next step on every push, with the layout of this idiom.
     template <class Step>
     void pushStep() {
-        navigationController()->pushViewController(
-            new Step(layoutFor(Step::staticMetaObject.className())), true);
+        navigationController()->pushViewController(new Step, true);
     }
 };

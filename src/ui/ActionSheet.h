@@ -2,6 +2,7 @@
 // An option sheet: a title, choices numbered from 0, then the cancel button with the next index.
 // It stays alive after a choice so that it can be shown again.
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QStringList>
 
@@ -9,7 +10,8 @@
 
 class ActionSheet : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString kind READ kind CONSTANT)
+    QML_ELEMENT
+    QML_UNCREATABLE("made by screen code")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QStringList otherButtonTitles READ otherButtonTitles CONSTANT)
     Q_PROPERTY(QString cancelButtonTitle READ cancelButtonTitle CONSTANT)
@@ -27,8 +29,6 @@ public:
 
     void show();
     Q_INVOKABLE void clickButtonAtIndex(int index);
-
-    QString kind() const { return QStringLiteral("ActionSheet"); }
 
 signals:
     void clickedButtonAtIndex(ActionSheet* sheet, int index);

@@ -1,6 +1,7 @@
 #pragma once
 // A modal message with one or more buttons, shown over the whole window.
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QStringList>
 
@@ -8,7 +9,8 @@
 
 class AlertView : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString kind READ kind CONSTANT)
+    QML_ELEMENT
+    QML_UNCREATABLE("made by screen code")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString message READ message CONSTANT)
     Q_PROPERTY(QStringList buttonTitles READ buttonTitles CONSTANT)
@@ -25,8 +27,6 @@ public:
     // Shows the alert in the application's window; it deletes itself once dismissed.
     void show();
     Q_INVOKABLE void clickButtonAtIndex(int index);
-
-    QString kind() const { return QStringLiteral("AlertView"); }
 
 signals:
     void clickedButtonAtIndex(int index);

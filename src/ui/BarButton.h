@@ -4,14 +4,15 @@
 // touch-up-inside. The width comes from the screen.
 
 #include "ui/Button.h"
-#include "ui/Colors.h"
 #include "ui/NavigationItem.h"
+#include "ui/Theme.h"
 
 template <class Screen>
-BarButtonItem* redBarButtonItem(const char* title, qreal width, Screen* screen, void (Screen::*action)()) {
+BarButtonItem* redBarButtonItem(const char* title, qreal width, Screen* screen,
+                                void (Screen::*action)()) {
     auto* button = new Button;
     button->setTitle(title);
-    button->setTitleColor(redColor());
+    button->setTitleColor(Theme::tint());
     button->setFrame(QRectF(0, 0, width, 38));
     button->setAdjustsImageWhenHighlighted(false);
     QObject::connect(button, &Button::touchUpInside, screen, action);

@@ -1,12 +1,14 @@
 #pragma once
 // A button: a title and/or an image; code connects touchUpInside to an action.
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 
 #include "ui/View.h"
 
 class Button : public View {
     Q_OBJECT
+    QML_ELEMENT
     KIT_PROPERTY(QString, title, setTitle);
     KIT_PROPERTY_INIT(QColor, titleColor, setTitleColor, QColor(0, 122, 255));
     KIT_PROPERTY(QString, imageName, setImageName);

@@ -55,6 +55,7 @@ QStringList monthNamesOfLocale() {
 DatePicker::DatePicker(QObject* parent) : View(parent), monthNames_(monthNamesOfLocale()) {
     Calendar today(Clock::now());
     maximumYear_ = today.year();
+    years_.setCount(maximumYear_ - minimumYear() + 1);
     today.addYears(-30);
     show(today.instant());
 }
@@ -72,5 +73,6 @@ void DatePicker::show(Instant date) {
     date_ = date;
     shown_ = {calendar.year(), calendar.month(), calendar.day()};
     daysInMonth_ = calendar.daysInMonth();
+    days_.setCount(daysInMonth_);
     if (changed) emit dateChanged();
 }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 
 #include "ui/View.h"
 
 class Label : public View {
     Q_OBJECT
+    QML_ELEMENT
     KIT_PROPERTY(QString, text, setText);
     KIT_PROPERTY_INIT(QColor, textColor, setTextColor, Qt::black);
     KIT_PROPERTY_INIT(QColor, backgroundColor, setBackgroundColor, Qt::transparent);

@@ -5,6 +5,7 @@
 // itself go, the picture no longer holds: every row comes back live and restarted() tells the
 // renderer to drop its picture.
 
+#include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QPointer>
 
@@ -12,6 +13,7 @@
 
 class LiveRowsModel : public QAbstractListModel {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(ObjectListModel* source READ source WRITE setSource NOTIFY sourceChanged)
 
 public:

@@ -7,10 +7,6 @@ NavigationController::NavigationController(ViewController* root, QObject* parent
     stack_.append(root);
 }
 
-QList<QObject*> NavigationController::viewControllerObjects() const {
-    return QList<QObject*>(stack_.begin(), stack_.end());
-}
-
 void NavigationController::setVisible(bool visible) {
     if (visible_ == visible) return;
     visible_ = visible;
@@ -35,9 +31,13 @@ void NavigationController::pushViewController(ViewController* controller, bool a
     controller->endAppearance(true, animated);
 }
 
-void NavigationController::popViewController(bool animated) { popTo(stack_.size() - 1, animated); }
+void NavigationController::popViewController(bool animated) {
+    popTo(stack_.size() - 1, animated);
+}
 
-void NavigationController::popToRootViewController(bool animated) { popTo(1, animated); }
+void NavigationController::popToRootViewController(bool animated) {
+    popTo(1, animated);
+}
 
 void NavigationController::popTo(qsizetype depth, bool animated) {
     if (depth < 1 || depth >= stack_.size()) return;

@@ -3,6 +3,7 @@
 // deleted once the renderer has finished animating it out (at once when nothing renders it).
 // Screens get their appearance calls only while the controller itself is on screen.
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QList>
 #include <QObject>
@@ -14,7 +15,10 @@ class TabBarController;
 
 class NavigationController : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QList<QObject*> viewControllers READ viewControllerObjects NOTIFY stackChanged)
+    QML_ELEMENT
+    QML_UNCREATABLE("made by screen code")
+    Q_PROPERTY(QQmlListProperty<ViewController> viewControllers READ viewControllerList NOTIFY
+                   stackChanged)
     Q_PROPERTY(ViewController* topViewController READ topViewController NOTIFY stackChanged)
     Q_PROPERTY(TabBarItem* tabBarItem READ tabBarItem CONSTANT)
     KIT_PROPERTY(bool, navigationBarHidden, setNavigationBarHidden);
@@ -26,7 +30,7 @@ public:
     explicit NavigationController(ViewController* root, QObject* parent = nullptr);
 
     const QList<ViewController*>& viewControllers() const { return stack_; }
-    QList<QObject*> viewControllerObjects() const;
+    QQmlListProperty<ViewController> viewControllerList() { return readOnlyList(this, stack_); }
     ViewController* topViewController() const { return stack_.isEmpty() ? nullptr : stack_.last(); }
     // A navigation controller in a tab bar presents its root screen's tab bar item.
     TabBarItem* tabBarItem() const { return stack_.first()->tabBarItem(); }

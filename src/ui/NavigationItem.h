@@ -1,6 +1,7 @@
 #pragma once
 // What a screen shows in its navigation bar: bar button items around the title.
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 
 #include "ui/Button.h"
@@ -9,6 +10,8 @@
 // A bar button item whose content is a custom view (the program's bar buttons are all custom).
 class BarButtonItem : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by screen code")
     Q_PROPERTY(Button* customView READ customView CONSTANT)
 
 public:
@@ -25,6 +28,8 @@ private:
 
 class NavigationItem : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made with its screen")
     KIT_PROPERTY(BarButtonItem*, leftBarButtonItem, setLeftBarButtonItemRaw);
     KIT_PROPERTY(BarButtonItem*, rightBarButtonItem, setRightBarButtonItemRaw);
     KIT_PROPERTY(bool, hidesBackButton, setHidesBackButton);

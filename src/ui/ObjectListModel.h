@@ -7,11 +7,14 @@
 // The list does not own its objects; whoever fills it does, and removes an object before it is
 // deleted.
 
+#include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QList>
 
 class ObjectListModel : public QAbstractListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by a view")
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:

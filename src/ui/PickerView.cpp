@@ -9,6 +9,12 @@ void PickerView::reloadAllComponents() {
         const int64_t rows = dataSource_->pickerViewNumberOfRowsInComponent(c);
         rowCounts_.append(int(std::max<int64_t>(rows, 0)));
     }
+    // A renderer may still hold the old wheels until it has built the new ones.
+    for (Wheel* wheel : std::as_const(wheels_)) wheel->deleteLater();
+    wheels_.clear();
+    for (qsizetype c = 0; c < rowCounts_.size(); ++c)
+        wheels_.append(new Wheel(
+            rowCounts_[c], [this, c](int row) { return titleForRow(row, int(c)); }, this));
     selected_.resize(rowCounts_.size());
     for (qsizetype c = 0; c < selected_.size(); ++c)
         selected_[c] = std::clamp(selected_[c], 0, std::max(rowCounts_[c] - 1, 0));

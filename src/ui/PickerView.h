@@ -5,11 +5,14 @@
 // a wheel comes to rest on after the user turned it, by pointer, keyboard or assistive technology.
 // A row selected by code is not reported.
 
+#include <QtQml/qqmlregistration.h>
 #include <QList>
+#include <QQmlListProperty>
 #include <QString>
 #include <cstdint>
 
 #include "ui/View.h"
+#include "ui/Wheel.h"
 
 class PickerViewDataSource {
 public:
@@ -33,8 +36,9 @@ protected:
 
 class PickerView : public View {
     Q_OBJECT
-    // Rows per wheel as last asked of the data source; the renderer builds its wheels from these.
-    Q_PROPERTY(QList<int> rowCounts READ rowCounts NOTIFY componentsReloaded)
+    QML_ELEMENT
+    // A wheel per component, as last asked of the data source; a reload makes them anew.
+    Q_PROPERTY(QQmlListProperty<Wheel> wheels READ wheels NOTIFY componentsReloaded)
 
 public:
     explicit PickerView(QObject* parent = nullptr) : View(parent) {}
@@ -46,14 +50,15 @@ public:
     // Asks the data source again; selections stay where the new rows allow.
     void reloadAllComponents();
     QList<int> rowCounts() const { return rowCounts_; }
+    QQmlListProperty<Wheel> wheels() { return readOnlyList(this, wheels_); }
 
     // Turns a wheel from code, without telling the delegate.
     void selectRow(int64_t row, int64_t component, bool animated);
     // -1 for a component the picker does not have.
     Q_INVOKABLE int selectedRowInComponent(int component) const;
 
-    // For the renderer: a row's title, asked of the delegate when the wheel draws it.
-    Q_INVOKABLE QString titleForRow(int row, int component);
+    // A row's title, asked of the delegate when the wheel draws it.
+    QString titleForRow(int row, int component);
     // For the renderer: a wheel's accessible name, asked of the delegate.
     Q_INVOKABLE QString accessibilityLabelForComponent(int component);
     // For the renderer: the user turned a wheel and it came to rest on row.
@@ -68,5 +73,6 @@ private:
     PickerViewDataSource* dataSource_ = nullptr;
     PickerViewDelegate* delegate_ = nullptr;
     QList<int> rowCounts_;
+    QList<Wheel*> wheels_;
     QList<int> selected_;
 };

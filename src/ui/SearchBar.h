@@ -3,6 +3,7 @@
 // begins, of every change of the text by the user (each keystroke, paste or deletion), and of the
 // search and cancel buttons. Text set by code is not reported.
 
+#include <QtQml/qqmlregistration.h>
 #include <QString>
 
 #include "ui/View.h"
@@ -20,6 +21,7 @@ protected:
 
 class SearchBar : public View {
     Q_OBJECT
+    QML_ELEMENT
     KIT_PROPERTY(QString, text, setText);
     KIT_PROPERTY_INIT(QString, placeholder, setPlaceholder, QStringLiteral("Search"));
     Q_PROPERTY(bool showsCancelButton READ showsCancelButton NOTIFY showsCancelButtonChanged)

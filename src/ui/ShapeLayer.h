@@ -3,6 +3,7 @@
 // coordinates (its frame's origin in its parent; no frame: the parent's origin). Added to a view
 // with View::addSubview, or to a layer list, and gone for good once removed from a view.
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QLineF>
 #include <QList>
@@ -13,6 +14,7 @@
 
 class ShapeLayer : public View {
     Q_OBJECT
+    QML_ELEMENT
     // For the renderer: the path's strokes as pairs of points, start then end.
     Q_PROPERTY(QVariantList lines READ lines NOTIFY pathChanged)
     KIT_PROPERTY_INIT(QColor, strokeColor, setStrokeColor, Qt::black);

@@ -12,10 +12,6 @@ void TabBarController::setViewControllers(const QList<NavigationController*>& co
     if (visible_ && !tabs_.isEmpty()) tabs_.first()->setVisible(true);
 }
 
-QList<QObject*> TabBarController::viewControllerObjects() const {
-    return QList<QObject*>(tabs_.begin(), tabs_.end());
-}
-
 NavigationController* TabBarController::selectedViewController() const {
     return selectedIndex_ >= 0 && selectedIndex_ < tabs_.size() ? tabs_[selectedIndex_] : nullptr;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // Tabs of navigation controllers; only the selected one is on screen.
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QList>
 #include <QObject>
@@ -10,8 +11,12 @@
 
 class TabBarController : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QList<QObject*> viewControllers READ viewControllerObjects NOTIFY viewControllersChanged)
-    Q_PROPERTY(int selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
+    QML_ELEMENT
+    QML_UNCREATABLE("made by screen code")
+    Q_PROPERTY(QQmlListProperty<NavigationController> viewControllers READ viewControllerList NOTIFY
+                   viewControllersChanged)
+    Q_PROPERTY(
+        int selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
     KIT_PROPERTY(QColor, tintColor, setTintColor);
 
 public:
@@ -20,7 +25,9 @@ public:
     // Takes ownership of the controllers.
     void setViewControllers(const QList<NavigationController*>& controllers);
     const QList<NavigationController*>& viewControllers() const { return tabs_; }
-    QList<QObject*> viewControllerObjects() const;
+    QQmlListProperty<NavigationController> viewControllerList() {
+        return readOnlyList(this, tabs_);
+    }
 
     int selectedIndex() const { return selectedIndex_; }
     void setSelectedIndex(int index);

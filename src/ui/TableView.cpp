@@ -42,7 +42,8 @@ void TableView::reloadData() {
         if (header) header->deleteLater();
     headerViews_.clear();
     sectionStarts_.assign(1, 0);
-    const int64_t sections = dataSource_ ? std::max<int64_t>(dataSource_->numberOfSectionsInTableView(), 0) : 0;
+    const int64_t sections =
+        dataSource_ ? std::max<int64_t>(dataSource_->numberOfSectionsInTableView(), 0) : 0;
     for (int64_t s = 0; s < sections; ++s) {
         const int64_t rows = std::max<int64_t>(dataSource_->tableViewNumberOfRowsInSection(s), 0);
         // The list counts its rows in an int.
@@ -74,7 +75,8 @@ int TableView::flatRow(IndexPath indexPath) const {
 
 IndexPath TableView::indexPathOf(int row) const {
     // The last section starting at or before row; empty sections start where the next one does.
-    const auto next = std::upper_bound(sectionStarts_.begin(), sectionStarts_.end() - 1, int64_t(row));
+    const auto next =
+        std::upper_bound(sectionStarts_.begin(), sectionStarts_.end() - 1, int64_t(row));
     const int64_t section = (next - sectionStarts_.begin()) - 1;
     return {section, row - sectionStarts_[section]};
 }
@@ -100,6 +102,13 @@ void TableView::enqueueReusableCell(TableViewCell* cell) {
     } else {
         cell->deleteLater();  // the renderer may still be unbinding it
     }
+}
+
+View* TableRows::tableHeaderView() const {
+    return table_->tableHeaderView();
+}
+View* TableRows::headerViewForSection(int section) {
+    return table_->headerViewForSection(section);
 }
 
 View* TableView::headerViewForSection(int section) {
@@ -142,7 +151,8 @@ void TableView::deselectRowAtIndexPath(IndexPath indexPath, bool animated) {
     setSelectedRow(-1);
 }
 
-void TableView::scrollToRowAtIndexPath(IndexPath indexPath, ScrollPosition position, bool animated) {
+void TableView::scrollToRowAtIndexPath(IndexPath indexPath, ScrollPosition position,
+                                       bool animated) {
     layoutIfNeeded();
     const int row = flatRow(indexPath);
     if (row >= 0) emit scrollRequested(row, position, animated);

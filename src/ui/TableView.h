@@ -5,6 +5,7 @@
 // identifier once their rows leave it, so a table of thousands of rows holds a screenful of
 // cells. Only reloadData renews the whole list.
 
+#include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QColor>
 #include <QHash>
@@ -24,6 +25,8 @@ struct IndexPath {
 
 class TableViewCell : public View {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the table's data source")
     Q_PROPERTY(Label* textLabel READ textLabel CONSTANT)
     KIT_PROPERTY_INIT(QColor, backgroundColor, setBackgroundColor, Qt::white);
 
@@ -66,6 +69,8 @@ class TableView;
 // knowing its section, whether it is selected and (asked for by the renderer) its cell.
 class TableRows : public QAbstractListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("a table's own")
 
 public:
     enum Role { SectionRole = Qt::UserRole, SelectedRole };
@@ -73,6 +78,11 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
+    // For the header views, which have only the list to go by: the table's header view, and its
+    // view for a section.
+    Q_PROPERTY(View* tableHeaderView READ tableHeaderView CONSTANT)
+    View* tableHeaderView() const;
+    Q_INVOKABLE View* headerViewForSection(int section);
 
 private:
     friend class TableView;
@@ -81,8 +91,11 @@ private:
 
 class TableView : public View {
     Q_OBJECT
-    Q_PROPERTY(QAbstractListModel* rows READ rows CONSTANT)
-    // Scrolls with the rows, above the first section (the search bar of a search screen). Not owned.
+    // QtQuick's TableView has the plain name.
+    QML_NAMED_ELEMENT(TableViewModel)
+    Q_PROPERTY(TableRows* rows READ rows CONSTANT)
+    // Scrolls with the rows, above the first section (the search bar of a search screen). Not
+    // owned.
     KIT_PROPERTY(View*, tableHeaderView, setTableHeaderView);
     KIT_PROPERTY_INIT(QColor, backgroundColor, setBackgroundColor, Qt::white);
     // For the renderer: whether the last deselection fades out.
@@ -111,7 +124,7 @@ public:
     // Ignored for a row the table does not have.
     void scrollToRowAtIndexPath(IndexPath indexPath, ScrollPosition position, bool animated);
 
-    QAbstractListModel* rows() { return &rows_; }
+    TableRows* rows() { return &rows_; }
 
     // For the renderer: the first time it shows the table (after the screen has loaded), the
     // rows are asked for unless code has done so already.

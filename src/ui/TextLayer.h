@@ -3,15 +3,41 @@
 // background colour. Layers are drawing, not controls: assistive technology does not see them,
 // the view that owns them speaks for them.
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QHash>
-#include <QVariantMap>
+#include <QList>
 
 #include "ui/BasicAnimation.h"
 #include "ui/View.h"
 
+// How a renderer plays a background colour animation: from the layer's colour to `to` and, when
+// it reverses, back again, each way over `duration` ms along `curve` and `backCurve` (cubic
+// Bézier control points and end, as QML's easing takes them; empty for linear), `loops` times.
+struct ColourFlash {
+    Q_GADGET
+    QML_VALUE_TYPE(colourFlash)
+    Q_PROPERTY(bool valid MEMBER valid)
+    Q_PROPERTY(QColor to MEMBER to)
+    Q_PROPERTY(bool reverses MEMBER reverses)
+    Q_PROPERTY(int duration MEMBER duration)
+    Q_PROPERTY(int loops MEMBER loops)
+    Q_PROPERTY(QList<qreal> curve MEMBER curve)
+    Q_PROPERTY(QList<qreal> backCurve MEMBER backCurve)
+
+public:
+    bool valid = false;  // false: there is no colour animation under the key
+    QColor to;
+    bool reverses = false;
+    int duration = 0;
+    int loops = 1;
+    QList<qreal> curve;
+    QList<qreal> backCurve;
+};
+
 class TextLayer : public View {
     Q_OBJECT
+    QML_ELEMENT
     KIT_PROPERTY(QString, string, setString);
     KIT_PROPERTY(QString, fontName, setFontName);  // a face this machine lacks falls back
     KIT_PROPERTY_INIT(qreal, fontSize, setFontSize, 36);
@@ -28,9 +54,8 @@ public:
     // The animation playing under key, or null once it has finished (or was never added).
     const BasicAnimation* animationForKey(const QString& key) const;
 
-    // For the renderer: the animation under key as keyPath, toValue, duration, autoreverses,
-    // repeatCount and timingFunction; empty when there is none.
-    Q_INVOKABLE QVariantMap animationDescription(const QString& key) const;
+    // For the renderer: how to play the animation under key.
+    Q_INVOKABLE ColourFlash colourFlash(const QString& key) const;
     // For the renderer: the animation under key has finished and goes.
     Q_INVOKABLE void animationDidStop(const QString& key) { animations_.remove(key); }
 

@@ -2,9 +2,9 @@
 // The base of every outlet: a frame (empty: the layout places it), visibility, a tag, and the
 // subviews and layers that code adds at run time (drawn on top of the layout's own content).
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QRectF>
-#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 #include "ui/ObjectListModel.h"
@@ -12,18 +12,16 @@
 
 class View : public QObject {
     Q_OBJECT
+    QML_ELEMENT
     KIT_PROPERTY(QRectF, frame, setFrame);
     KIT_PROPERTY(bool, hidden, setHidden);
     KIT_PROPERTY(int, tag, setTag);
     // One renderer per subview, made or destroyed as each is added or removed.
     Q_PROPERTY(ObjectListModel* subviews READ subviewModel CONSTANT)
-    // The class name: a view placed by itself (a table's header) is drawn by "Kit" + kind.
-    Q_PROPERTY(QString kind READ kind CONSTANT)
 
 public:
     explicit View(QObject* parent = nullptr) : QObject(parent) {}
 
-    QString kind() const { return QString::fromLatin1(metaObject()->className()); }
     const QList<QObject*>& subviews() const;
     // Made on first use: most views never hold subviews.
     ObjectListModel* subviewModel();

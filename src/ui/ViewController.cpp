@@ -1,10 +1,6 @@
 #include "ui/ViewController.h"
 
-#include "store/AppState.h"
 #include "ui/NavigationController.h"
-
-ViewController::ViewController(const QString& layoutName, QObject* parent)
-    : QObject(parent), layoutName_(layoutName) {}
 
 TabBarController* ViewController::tabBarController() const {
     return navigationController_ ? navigationController_->tabBarController() : nullptr;
@@ -23,9 +19,4 @@ void ViewController::beginAppearance(bool appearing, bool animated) {
 
 void ViewController::endAppearance(bool appeared, bool animated) {
     appeared ? viewDidAppear(animated) : viewDidDisappear(animated);
-}
-
-QString layoutFor(const char* className) {
-    const QString name = QString::fromLatin1(className);
-    return AppState::shared().isPad ? name + QStringLiteral("@iPad") : name;
 }

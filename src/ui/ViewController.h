@@ -1,8 +1,10 @@
 #pragma once
-// A screen: its title, navigation item, root view and lifecycle. Its layout is the QML file named
-// like layoutName ("TodayScreen", "TodayScreen@iPad"); the layout only places the outlets this
-// class owns and wires controls to its actions, so screen code reads like the behaviour it has.
+// A screen: its title, navigation item, root view and lifecycle. Its layout is a QML type of its
+// feature's module, chosen by the screen's class and the idiom; the layout only places the outlets
+// this class owns and wires controls to its actions, so screen code reads like the behaviour it
+// has.
 
+#include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QString>
 
@@ -16,6 +18,8 @@ class TabBarController;
 // The tab bar's entry for a screen.
 class TabBarItem : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made with its screen")
     KIT_PROPERTY(QString, title, setTitle);
     KIT_PROPERTY(QString, imageName, setImageName);
 
@@ -25,16 +29,16 @@ public:
 
 class ViewController : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("screens are made by code")
     KIT_PROPERTY(QString, title, setTitle);
-    Q_PROPERTY(QString layoutName READ layoutName CONSTANT)
     Q_PROPERTY(NavigationItem* navigationItem READ navigationItem CONSTANT)
     Q_PROPERTY(View* view READ view CONSTANT)
     Q_PROPERTY(TabBarItem* tabBarItem READ tabBarItem CONSTANT)
 
 public:
-    explicit ViewController(const QString& layoutName = {}, QObject* parent = nullptr);
+    explicit ViewController(QObject* parent = nullptr) : QObject(parent) {}
 
-    QString layoutName() const { return layoutName_; }
     NavigationItem* navigationItem() { return &navigationItem_; }
     View* view() { return &view_; }
     TabBarItem* tabBarItem() { return &tabBarItem_; }
@@ -59,13 +63,9 @@ protected:
 
 private:
     friend class NavigationController;
-    QString layoutName_;
     NavigationItem navigationItem_;
     View view_;
     TabBarItem tabBarItem_;
     NavigationController* navigationController_ = nullptr;
     bool viewLoaded_ = false;
 };
-
-// The layout name for the current idiom: the name as it is on a phone, "@iPad" appended on a pad.
-QString layoutFor(const char* className);

@@ -2,6 +2,7 @@
 // The application window as screens see it: a root navigation controller, views added on top
 // of everything (the tab interface), and what is presented over it all (alerts, option sheets).
 
+#include <QtQml/qqmlregistration.h>
 #include <QList>
 #include <QObject>
 
@@ -13,7 +14,11 @@ class TabBarController;
 
 class Window : public QObject {
     Q_OBJECT
-    Q_PROPERTY(NavigationController* rootViewController READ rootViewController NOTIFY rootViewControllerChanged)
+    // QtQuick's Window has the plain name.
+    QML_NAMED_ELEMENT(WindowModel)
+    QML_UNCREATABLE("the application delegate owns it")
+    Q_PROPERTY(NavigationController* rootViewController READ rootViewController NOTIFY
+                   rootViewControllerChanged)
     Q_PROPERTY(ObjectListModel* subviews READ subviewModel CONSTANT)
     Q_PROPERTY(ObjectListModel* presented READ presentedModel CONSTANT)
     // Tiled behind everything: "bg" on a phone, "bgiPad" on a pad.

@@ -1,15 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QQuickItem>
 
-#include "app/MoreScreen.h"
 #include "app/SplashScreen.h"
-#include "app/TabBar.h"
+#include "app/tabs/MoreScreen.h"
+#include "app/tabs/TabBar.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
 #include "support/AppHarness.h"
-#include "ui/Colors.h"
 #include "ui/TabBarController.h"
+#include "ui/Theme.h"
 
 using namespace std::chrono_literals;
 
@@ -77,20 +78,23 @@ TEST(TabInterface, FiveTabsWithTitlesImagesAndIdiomLayouts) {
         ASSERT_NE(tabs, nullptr);
         EXPECT_EQ(app.window()->subviews(), QList<QObject*>{tabs});
         EXPECT_EQ(tabs->selectedIndex(), 0);
-        EXPECT_EQ(tabs->tintColor(), redColor());
+        EXPECT_EQ(tabs->tintColor(), Theme::tint());
         const QStringList titles{"Today", "Food", "Exercise", "Log", "More"};
         const QStringList images{"today", "food", "excersice", "log", "more"};
-        const QStringList layouts{"TodayScreen", "SearchFoodScreen", "ExerciseScreen", "LogScreen",
-                                  "MoreScreen"};
         ASSERT_EQ(tabs->viewControllers().size(), 5);
         for (int i = 0; i < 5; ++i) {
             NavigationController* nav = tabs->viewControllers()[i];
             ViewController* screen = nav->viewControllers().first();
             EXPECT_EQ(screen->tabBarItem()->title(), titles[i]);
             EXPECT_EQ(screen->tabBarItem()->imageName(), images[i]);
-            EXPECT_EQ(screen->layoutName(), layouts[i] + (pad ? "@iPad" : ""));
-            EXPECT_EQ(nav->barTintColor(), redColor());
+            EXPECT_EQ(nav->barTintColor(), Theme::tint());
         }
+        // The first tab is drawn at once, by its idiom's layout.
+        const QQuickItem* today = app.layoutOf(tabs->viewControllers()[0]->topViewController());
+        ASSERT_NE(today, nullptr);
+        EXPECT_TRUE(QString(today->metaObject()->className())
+                        .startsWith(pad ? "TodayPadLayout_" : "TodayLayout_"))
+            << today->metaObject()->className();
         EXPECT_EQ(app.window()->backgroundPatternImage(), pad ? "bgiPad" : "bg");
         EXPECT_EQ(AppState::shared().isPad, pad);
     }
@@ -116,7 +120,7 @@ TEST(SplashScreen, MakesTheSameChoiceAndHidesTheBarMeanwhile) {
     AppHarness app({.firstTime = QString("no")});
     app.launch();
     NavigationController* nav = app.window()->rootViewController();
-    nav->pushViewController(new SplashScreen(QString(), true), false);
+    nav->pushViewController(new SplashScreen(true), false);
     EXPECT_TRUE(AppState::shared().isPad);
     ASSERT_EQ(nav->viewControllers().size(), 3);
     EXPECT_NE(qobject_cast<TabBar*>(nav->topViewController()), nullptr);

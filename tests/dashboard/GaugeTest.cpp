@@ -48,6 +48,11 @@ TEST(Gauge, ScaleBudgetLineAndLogLines) {
     EXPECT_EQ(line.valueFrame, (Rect{line.x + 5, 134, 57, 17}));
     EXPECT_EQ(line.valueText, "1850");
     EXPECT_EQ(budgetLine(1850, phone, logGeometry(false)).titleFrame.y, 197);
+    // Each mark stands under the calories its text reads; the top mark at the right end.
+    EXPECT_DOUBLE_EQ(markPosition("1000", "3000", 320), 320.0 / 3);
+    EXPECT_DOUBLE_EQ(markPosition("3000", "3000", 768), 768);
+    EXPECT_DOUBLE_EQ(markPosition("1", "0", 320), 0);  // a degenerate scale puts all at 0
+    EXPECT_DOUBLE_EQ(markPosition("-1000000000", "-2000000000", 320), 0);
     // At the limit the budget line sits at the gauge's right end.
     const float huge = scaleMarks(kMax, 320).caloriesPerPoint;
     EXPECT_NEAR(budgetLine(kMax, huge, todayGeometry(false)).x, 320, 0.01);

@@ -63,6 +63,7 @@ TEST_F(Duration, OnTheExerciseTabItShowsTheCaloriesOfADurationOnly) {
         EXPECT_EQ(screen->title(), "");
         EXPECT_EQ(barButton(screen, false), barButton(screen, true));  // neither
         EXPECT_EQ(screen->calorieAmt()->text(), c.perHour);
+        EXPECT_EQ(screen->perHourText(), c.perHour + QString(" Cal per hour"));
         EXPECT_EQ(turn(screen, c.turns), c.shown);
         EXPECT_EQ(day(), std::pair(1240, 100));
         tab(2)->popViewController(false);

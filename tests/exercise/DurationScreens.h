@@ -10,7 +10,7 @@
 inline BrowseExerciseScreen* pushDuration(int tabIndex, const QString& name, const QString& perHour,
                                           bool animated = false) {
     AppState::shared().tabBarController->setSelectedIndex(tabIndex);
-    auto* screen = new BrowseExerciseScreen(layoutFor("BrowseExerciseScreen"));
+    auto* screen = new BrowseExerciseScreen;
     screen->setItem(name);
     screen->setItem1(perHour);
     tab(tabIndex)->pushViewController(screen, animated);

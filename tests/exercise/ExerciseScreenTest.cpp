@@ -10,9 +10,9 @@
 #include "exercise/ExerciseScreen.h"
 #include "exercise/IndexBarMapping.h"
 #include "support/Fixtures.h"
-#include "ui/Colors.h"
 #include "ui/Label.h"
 #include "ui/NavigationController.h"
+#include "ui/Theme.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ protected:
         return shown;
     }
 
-    ExerciseScreen* screen = new ExerciseScreen("ExerciseScreen");
+    ExerciseScreen* screen = new ExerciseScreen;
     NavigationController nav;
 };
 
@@ -62,7 +62,7 @@ TEST_F(ExerciseList, BrowsingShowsSectionsWithHeadersAndPicksTheListsValue) {
     EXPECT_EQ(table()->numberOfSections(), 20);
     EXPECT_EQ(screen->indexBar()->indexes(), screen->catalogue().sections());
     EXPECT_EQ(screen->indexBar()->delegate(), screen);
-    EXPECT_EQ(nav.barTintColor(), redColor());
+    EXPECT_EQ(nav.barTintColor(), Theme::tint());
     QPointer<QObject> letterA = screen->indexBar()->sublayers()->objects().value(1);
     table()->reloadData();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -72,7 +72,8 @@ TEST_F(ExerciseList, BrowsingShowsSectionsWithHeadersAndPicksTheListsValue) {
     EXPECT_EQ(table()->numberOfRowsInSection(2), 8);  // C: its two surplus values never shown
     EXPECT_EQ(cell({2, 7}), "Cycling, 16-19 mph, very fast, racing");
     EXPECT_EQ(cell({14, 2}), "Running, 6 mph (10 min mile)");
-    EXPECT_EQ(table()->dequeueReusableCellWithIdentifier("TableViewCellId")->reuseIdentifier(), "TableViewCellId");
+    EXPECT_EQ(table()->dequeueReusableCellWithIdentifier("TableViewCellId")->reuseIdentifier(),
+              "TableViewCellId");
 
     View* header = table()->headerViewForSection(3);
     ASSERT_NE(header, nullptr);
@@ -82,7 +83,7 @@ TEST_F(ExerciseList, BrowsingShowsSectionsWithHeadersAndPicksTheListsValue) {
     ASSERT_NE(label, nullptr);
     EXPECT_EQ(label->frame(), QRectF(0, 0, 768, 20));
     EXPECT_EQ(label->text(), "D");
-    EXPECT_EQ(label->backgroundColor(), redColor());
+    EXPECT_EQ(label->backgroundColor(), Theme::tint());
     EXPECT_EQ(label->textColor(), QColor(Qt::white));
     EXPECT_EQ(label->fontName() + " " + QString::number(label->fontSize()), "Arial-Bold 13");
 
@@ -101,7 +102,8 @@ TEST_F(ExerciseList, IndexCallbacksScrollToSectionsTheTableHas) {
     for (int64_t section : {int64_t(3), int64_t(20), int64_t(-1), indexbar::kNotFound, int64_t(19)})
         screen->tableViewIndexBar(screen->indexBar(), section);
     ASSERT_EQ(scrolls.size(), 2);
-    EXPECT_EQ(scrolls[0], (QVariantList{26, QVariant::fromValue(TableView::ScrollPosition::Top), true}));
+    EXPECT_EQ(scrolls[0],
+              (QVariantList{26, QVariant::fromValue(TableView::ScrollPosition::Top), true}));
     EXPECT_EQ(scrolls[1][0], 116);
 
     bar()->userChangedText("golf");
@@ -115,6 +117,7 @@ TEST_F(ExerciseList, IndexCallbacksScrollToSectionsTheTableHas) {
 // carry the search's own per-hour values. The search button keeps the results; the empty text
 // and Cancel go back to browsing.
 TEST_F(ExerciseList, SearchingListsHitsWithTheirSearchValuesUntilClearedOrCancelled) {
+    EXPECT_EQ(screen->emptyListHint(), "");  // browsing is never empty
     bar()->userBeganEditing();
     EXPECT_TRUE(bar()->showsCancelButton());
     bar()->userChangedText("running");
@@ -135,6 +138,7 @@ TEST_F(ExerciseList, SearchingListsHitsWithTheirSearchValuesUntilClearedOrCancel
     bar()->userChangedText("Darts, indoors");
     EXPECT_EQ(table()->numberOfSections(), 1);
     EXPECT_EQ(table()->numberOfRowsInSection(0), 0);
+    EXPECT_EQ(screen->emptyListHint(), "No activity has this in its name.");
     EXPECT_TRUE(screen->indexBar()->hidden());
 
     bar()->userChangedText("horse");
@@ -147,6 +151,7 @@ TEST_F(ExerciseList, SearchingListsHitsWithTheirSearchValuesUntilClearedOrCancel
     EXPECT_TRUE(screen->indexBar()->hidden());
 
     bar()->userChangedText("");
+    EXPECT_EQ(screen->emptyListHint(), "");
     EXPECT_FALSE(screen->search);
     EXPECT_FALSE(screen->indexBar()->hidden());
     EXPECT_EQ(table()->numberOfSections(), 20);

@@ -14,7 +14,6 @@
 #include "exercise/ExerciseCatalogue.h"
 #include "exercise/IndexBarMapping.h"
 #include "exercise/SectionIndexBar.h"
-#include "ui/Kit.h"
 
 namespace {
 
@@ -112,6 +111,17 @@ TEST(SectionIndexBar, TouchesFlashTheLetterAndNameItsSection) {
                   (QList{5, 14, 17, 24, 25, 26, 0}.contains(n)))
             << n;
     }
+    // As the renderer plays it: to grey 180 and back, half a second each way, easing out and
+    // then the same curve backwards; a key that holds no animation plays nothing.
+    const ColourFlash flash = letters[5]->colourFlash("myAnimation");
+    EXPECT_TRUE(flash.valid && flash.reverses);
+    EXPECT_EQ(flash.to, QColor(180, 180, 180));
+    EXPECT_EQ(std::tuple(flash.duration, flash.loops), std::tuple(500, 1));
+    EXPECT_EQ(flash.curve, (QList<qreal>{0, 0, 0.58, 1, 1, 1}));
+    ASSERT_EQ(flash.backCurve.size(), 6);
+    for (int i = 0; i < 6; ++i)
+        EXPECT_NEAR(flash.backCurve[i], (QList<qreal>{0.42, 0, 1, 1, 1, 1}[i]), 1e-9);
+    EXPECT_FALSE(letters[1]->colourFlash("myAnimation").valid);
 
     // A touch before any layout flashes nothing and counts as one below the bar.
     delegate.sections.clear();
@@ -133,16 +143,15 @@ protected:
     void SetUp() override {
         qmlWarnings.clear();
         previousHandler = qInstallMessageHandler(collect);
-        registerKitTypes();
         bar.setDelegate(&delegate);
         bar.setIndexes(catalogueSections());
         QQmlComponent component(&engine);
         component.setData(R"(import QtQuick
-                             import "qrc:/exercise"
+                             import CalorieCounter.Exercise
                              Window {
-                                 property QtObject barModel
+                                 property SectionIndexBar barModel
                                  width: 100; height: 400; color: "white"; visible: true
-                                 KitSectionIndexBar { model: barModel; x: 40; y: 11; width: 20; height: 378 }
+                                 SectionIndexBarView { model: barModel; x: 40; y: 11; width: 20; height: 378 }
                              })",
                           QUrl("qrc:/IndexBarTest.qml"));
         ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();

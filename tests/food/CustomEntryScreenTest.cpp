@@ -13,7 +13,7 @@ protected:
     void SetUp() override { app.launch(); }
     void enter(bool exercise, const char* text) {
         AppState::shared().customEntryIsExercise = exercise;
-        tab(0)->pushViewController(new CustomEntryScreen("CustomEntryScreen"), false);
+        tab(0)->pushViewController(new CustomEntryScreen, false);
         auto* screen = qobject_cast<CustomEntryScreen*>(tab(0)->topViewController());
         EXPECT_TRUE(screen->calorieTxt()->firstResponder());
         screen->calorieTxt()->setText(text);
@@ -30,7 +30,8 @@ protected:
 // The text's integer value, 0 when it has none, is added and written, whatever it is.
 TEST_F(CustomEntry, FoodAddsTheIntegerValueOfTheText) {
     int32_t expected = 0;
-    for (auto [text, value] : {std::pair{"12abc", 12}, {"abc", 0}, {" 7", 7}, {"-50", -50}, {"", 0}}) {
+    for (auto [text, value] :
+         {std::pair{"12abc", 12}, {"abc", 0}, {" 7", 7}, {"-50", -50}, {"", 0}}) {
         SCOPED_TRACE(text);
         enter(false, text);
         expected += value;
@@ -47,7 +48,9 @@ TEST_F(CustomEntry, ExerciseWritesConsumedThenBurnedForTheSameDay) {
     LogCapture log;
     enter(true, "300");
     EXPECT_EQ(day(4), "900 300");
-    const auto at = [&](const char* line) { return std::find(log.lines().begin(), log.lines().end(), line); };
+    const auto at = [&](const char* line) {
+        return std::find(log.lines().begin(), log.lines().end(), line);
+    };
     EXPECT_LT(at("today Cal 1200"), at("today Cal 900"));
     EXPECT_LT(at("UPDATE dailyData SET \"calorieConsumed\"=\"900\" WHERE id=\"4\";"),
               at("UPDATE dailyData SET \"calorieBurned\"=\"300\" WHERE id=\"4\";"));

@@ -16,7 +16,7 @@ protected:
     TabBarController* tabs() { return AppState::shared().tabBarController; }
     // The portion screen for a food of item1 calories, pushed on the selected tab.
     FoodScreen* open(const char* item1) {
-        auto* screen = new FoodScreen("FoodScreen");
+        auto* screen = new FoodScreen;
         screen->item1 = item1;
         tabs()->selectedViewController()->pushViewController(screen, false);
         return screen;
@@ -38,14 +38,15 @@ TEST_F(Portion, OpensOnOnePortionWithTheCatalogueText) {
     FoodScreen* screen = open("52.5");
     const NavigationItem* bar = screen->navigationItem();
     EXPECT_EQ(screen->title() + bar->leftBarButtonItem()->customView()->title() +
-                  bar->rightBarButtonItem()->customView()->title(), "Add FoodCancelDone");
+                  bar->rightBarButtonItem()->customView()->title(),
+              "Add FoodCancelDone");
     EXPECT_EQ(screen->calorieAmt()->text(), "52.5");
     EXPECT_TRUE(screen->labelFoodUnit()->adjustsFontSizeToFitWidth());
     PickerView* picker = screen->selectPicker();
     EXPECT_EQ(picker->rowCounts(), (QList<int>{201, 8, 1}));
     EXPECT_EQ(picker->selectedRowInComponent(0), 1);
-    EXPECT_EQ(QStringList({picker->titleForRow(200, 0), picker->titleForRow(0, 1), picker->titleForRow(7, 1),
-                           picker->titleForRow(0, 2)}),
+    EXPECT_EQ(QStringList({picker->titleForRow(200, 0), picker->titleForRow(0, 1),
+                           picker->titleForRow(7, 1), picker->titleForRow(0, 2)}),
               (QStringList{"200", "", "7/8", ""}));
     EXPECT_EQ(consumed(), 0);
 }
@@ -59,11 +60,11 @@ TEST_F(Portion, Arithmetic) {
         const char* shown;
     };
     for (const Case& c : {Case{"150", {{0, 2}, {1, 4}}, "375"},
-                          {"5", {{0, 1}, {1, 1}}, "5"},          // 0.625 adds nothing
-                          {"100", {{1, 4}}, "150"},              // a fraction first: one portion and a half
+                          {"5", {{0, 1}, {1, 1}}, "5"},  // 0.625 adds nothing
+                          {"100", {{1, 4}}, "150"},      // a fraction first: one portion and a half
                           {"100", {{0, 0}}, "0"},
-                          {"52.5", {{0, 3}, {1, 7}}, "201"},     // 52 a portion
-                          {"-40", {{0, 2}, {1, 3}}, "-95"},      // -15 toward zero
+                          {"52.5", {{0, 3}, {1, 7}}, "201"},  // 52 a portion
+                          {"-40", {{0, 2}, {1, 3}}, "-95"},   // -15 toward zero
                           {"abc", {{0, 7}, {1, 4}}, "0"},
                           {"9223372036854775807", {{0, 2}}, "-2"}}) {  // wraps, and stays defined
         SCOPED_TRACE(c.item1);
@@ -91,7 +92,7 @@ TEST_F(Portion, TodayBooksEveryTurnAndDoneWritesTheDay) {
     // The Log tab moved to another day: that day is booked. Cancel goes back to the search and
     // undoes nothing.
     AppState::shared().dayIndex = 5;
-    tabs()->viewControllers()[0]->pushViewController(new SearchFoodScreen("SearchFoodScreen"), false);
+    tabs()->viewControllers()[0]->pushViewController(new SearchFoodScreen, false);
     screen = open("10");
     turn(screen, {{0, 3}});
     screen->CancelButton();

@@ -14,10 +14,12 @@ class SearchFood : public testing::Test {
 protected:
     void SetUp() override { app.launch(); }
     SearchFoodScreen* push() {
-        tab(0)->pushViewController(new SearchFoodScreen("SearchFoodScreen"), false);
+        tab(0)->pushViewController(new SearchFoodScreen, false);
         return qobject_cast<SearchFoodScreen*>(tab(0)->topViewController());
     }
-    static int64_t rows(SearchFoodScreen* screen) { return screen->searchFoodTable()->numberOfRowsInSection(0); }
+    static int64_t rows(SearchFoodScreen* screen) {
+        return screen->searchFoodTable()->numberOfRowsInSection(0);
+    }
 
     AppHarness app{{.firstTime = QString("no")}};
 };
@@ -31,6 +33,8 @@ TEST_F(SearchFood, EveryChangeSearchesAfreshAndEmptyTextOrCancelIsIdle) {
     SearchBar* bar = screen->searchBarOut();
     EXPECT_EQ(screen->searchFoodTable()->tableHeaderView(), bar);
     EXPECT_EQ(rows(screen), 0);
+    const QString typeHint = screen->emptyListHint();
+    EXPECT_TRUE(typeHint.startsWith("Type part of a food's name")) << typeHint.toStdString();
 
     bar->userBeganEditing();
     EXPECT_TRUE(bar->showsCancelButton());
@@ -40,7 +44,8 @@ TEST_F(SearchFood, EveryChangeSearchesAfreshAndEmptyTextOrCancelIsIdle) {
     const int64_t narrowed = rows(screen);
     EXPECT_GT(narrowed, 0);
     EXPECT_LT(narrowed, ap);
-    EXPECT_EQ(AppState::shared().foodNames[screen->indexOfTheObject], screen->searchresultID.at(narrowed - 1));
+    EXPECT_EQ(AppState::shared().foodNames[screen->indexOfTheObject],
+              screen->searchresultID.at(narrowed - 1));
     TableViewCell* cell = screen->searchFoodTable()->cellForRow(0);
     EXPECT_EQ(cell->textLabel()->text().toStdString(), screen->searchresultID.at(0));
     EXPECT_EQ(cell->textLabel()->fontName(), "HelveticaNeue-Thin");
@@ -48,8 +53,10 @@ TEST_F(SearchFood, EveryChangeSearchesAfreshAndEmptyTextOrCancelIsIdle) {
     bar->userPressedSearch();  // only the keyboard goes
     EXPECT_FALSE(bar->firstResponder());
     EXPECT_EQ(rows(screen), narrowed);
+    EXPECT_EQ(screen->emptyListHint(), "No food of the catalogue has this in its name.");
     bar->userChangedText("");
     EXPECT_EQ(rows(screen), 0);
+    EXPECT_EQ(screen->emptyListHint(), typeHint);
     EXPECT_EQ(int64_t(screen->searchresult.size()), narrowed);
     bar->userChangedText("ap");
     EXPECT_EQ(rows(screen), ap);
@@ -77,7 +84,8 @@ TEST_F(SearchFood, ARepeatedNameOpensWithItsFirstEntry) {
     screen->searchFoodTable()->userSelectedRow(1);
     auto* food = qobject_cast<FoodScreen*>(tab(0)->topViewController());
     ASSERT_NE(food, nullptr);
-    EXPECT_EQ(food->item + " " + food->item1 + " " + food->foodItemUnit, "Bananas, raw 200 1 cup, mashed (225 g)");
+    EXPECT_EQ(food->item + " " + food->item1 + " " + food->foodItemUnit,
+              "Bananas, raw 200 1 cup, mashed (225 g)");
     EXPECT_TRUE(log.contains("Bananas, raw 200"));
 
     tab(0)->popViewController(false);

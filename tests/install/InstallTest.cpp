@@ -11,7 +11,7 @@
 #include <filesystem>
 
 #include "support/Fixtures.h"
-#include "ui/Colors.h"
+#include "ui/Theme.h"
 
 namespace {
 
@@ -88,7 +88,7 @@ TEST_F(Installed, StartsAsAFirstStartWithTheCatalogueItWasInstalledWith) {
     ASSERT_EQ(picture.size(), QSize(320, 568));
     int red = 0;
     for (int y = 0; y < 44; ++y)
-        for (int x = 240; x < 320; ++x) red += picture.pixelColor(x, y) == redColor();
+        for (int x = 240; x < 320; ++x) red += picture.pixelColor(x, y) == Theme::tint();
     EXPECT_GT(red, 20);
 }
 
@@ -97,7 +97,8 @@ TEST_F(Installed, TheDesktopFindsItsEntryIconMetainfoAndManPage) {
     const Ran entryCheck = run("desktop-file-validate", {entry});
     EXPECT_EQ(entryCheck.exitCode, 0);
     EXPECT_EQ(entryCheck.out + entryCheck.err, "");  // not even a hint
-    // The metainfo, and the desktop entry it names as its launchable, as a software centre reads them.
+    // The metainfo, and the desktop entry it names as its launchable, as a software centre reads
+    // them.
     const Ran tree = run("appstreamcli", {"validate-tree", "--no-net", installed("")});
     EXPECT_EQ(tree.exitCode, 0) << tree.out.toStdString() << tree.err.toStdString();
     // Its screenshots are the README's pictures: each URL names one that exists.

@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QTimeZone>
 
-#include "app/TabBar.h"
+#include "app/tabs/TabBar.h"
 #include "setup/BirthdayScreen.h"
 #include "setup/WizardApp.h"
 
@@ -34,6 +34,7 @@ TEST(SelectDate, FinishesSetUpInOnePressAndAgainOnTheNext) {
         std::tie(state.heightCm, state.heightFeet, state.heightInches) =
             std::tuple(175, c.feet, c.inches);
         auto* screen = app.start<BirthdayScreen>();
+        EXPECT_TRUE(screen->animatedView()->hidden());  // until the press
         screen->datePicker()->setYearMonthDay(1996, 12, 30);
         screen->selectDate(nullptr);
 

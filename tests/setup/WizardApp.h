@@ -40,7 +40,7 @@ public:
     // Makes a new Step the root of the window's stack; it loads and appears at once.
     template <class Step>
     Step* start() {
-        auto* step = new Step(layoutFor(Step::staticMetaObject.className()));
+        auto* step = new Step;
         window_->setRootViewController(new NavigationController(step));
         return step;
     }

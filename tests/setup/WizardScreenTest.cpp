@@ -8,7 +8,7 @@
 #include "setup/HeightScreen.h"
 #include "setup/MeasureUnitScreen.h"
 #include "setup/WizardApp.h"
-#include "ui/Colors.h"
+#include "ui/Theme.h"
 
 TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
     const auto bar = [](ViewController* step, bool next) {
@@ -30,7 +30,6 @@ TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
         ViewController* screen = app.nav()->topViewController();
         ASSERT_EQ(app.nav()->viewControllers().size(), i + 1);
         EXPECT_STREQ(screen->metaObject()->className(), name);
-        EXPECT_EQ(screen->layoutName(), name);
         EXPECT_EQ(screen->title(), title);
         EXPECT_EQ(bar(screen, false) ? bar(screen, false)->title() : "", i ? "Previous" : "");
         EXPECT_EQ(bar(screen, true) ? bar(screen, true)->title() : "", missing ? "Next" : "");
@@ -71,7 +70,7 @@ TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
     auto* again = app.top<GenderScreen>();
     ASSERT_NE(again, nullptr);
     EXPECT_FALSE(again->selectOne);
-    EXPECT_EQ(again->check1()->imageName(), "");
+    EXPECT_EQ(again->check1()->imageName(), "uncheck");
     EXPECT_EQ(AppState::shared().genderValue, 1);
     again->nextButton();
     ASSERT_NE(app.alert(), nullptr);
@@ -83,8 +82,9 @@ TEST(ChoiceSteps, Tag0IsTheFirstAnswerAnyOtherTheSecondAndTheLastCounts) {
     WizardApp app;
     LogCapture log;
     auto* unit = app.start<MeasureUnitScreen>();
-    auto* gender = new GenderScreen("GenderScreen");
+    auto* gender = new GenderScreen;
     app.nav()->pushViewController(gender, false);
+    EXPECT_EQ(gender->maleLbl()->text() + gender->femaleLbl()->text(), "MaleFemale");
     for (int tag : {7, 0}) {
         Button choice;
         choice.setTag(tag);
@@ -98,8 +98,8 @@ TEST(ChoiceSteps, Tag0IsTheFirstAnswerAnyOtherTheSecondAndTheLastCounts) {
         }
         EXPECT_EQ(AppState::shared().measureUnit, first ? "Metric" : "Imperial");
         EXPECT_EQ(AppState::shared().genderValue, first ? 0 : 1);
-        EXPECT_EQ(gender->maleLbl()->textColor(), first ? redColor() : QColor(Qt::black));
-        EXPECT_EQ(gender->femaleLbl()->textColor(), first ? QColor(Qt::black) : redColor());
+        EXPECT_EQ(gender->maleLbl()->textColor(), first ? Theme::tint() : Theme::text());
+        EXPECT_EQ(gender->femaleLbl()->textColor(), first ? Theme::text() : Theme::tint());
     }
     // The gender step logs the unit words too.
     EXPECT_EQ(log.lines(), (std::vector<std::string>{"Imperial", "Imperial", "Metric", "Metric"}));

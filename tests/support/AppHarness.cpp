@@ -45,7 +45,8 @@ AppHarness::~AppHarness() {
 
 std::string AppHarness::prepareDatabase() {
     const std::string path = databasePath();
-    std::filesystem::copy_file(FOOD_DB_PATH, path, std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::copy_file(FOOD_DB_PATH, path,
+                               std::filesystem::copy_options::overwrite_existing);
     std::filesystem::permissions(path, std::filesystem::perms::owner_write,
                                  std::filesystem::perm_options::add);
     return path;
@@ -69,7 +70,24 @@ void AppHarness::launch() {
     settle();
 }
 
-void AppHarness::settle(int ms) { QTest::qWait(ms); }
+void AppHarness::settle(int ms) {
+    QTest::qWait(ms);
+}
+
+QQuickItem* AppHarness::layoutOf(const QObject* screen) {
+    // The layout is the item whose screen is this one, apart from the page and the host that
+    // hold it, which are no layouts.
+    QList<QQuickItem*> items{quickWindow()->contentItem()};
+    while (!items.isEmpty()) {
+        QQuickItem* item = items.takeFirst();
+        const QString type = item->metaObject()->className();
+        if (type.contains("Layout_") && !type.startsWith("ScreenLayout") &&
+            item->property("screen").value<QObject*>() == screen)
+            return item;
+        items += item->childItems();
+    }
+    return nullptr;
+}
 
 QQuickItem* AppHarness::findByName(const QString& name, int occurrence) {
     int skip = occurrence;
@@ -108,11 +126,14 @@ void AppHarness::key(Qt::Key key, int times) {
     settle(50);
 }
 
-QQuickItem* AppHarness::focused() { return quickWindow()->activeFocusItem(); }
+QQuickItem* AppHarness::focused() {
+    return quickWindow()->activeFocusItem();
+}
 
 bool AppHarness::tabTo(const QString& name) {
     const auto named = [&] {
-        QAccessibleInterface* node = focused() ? QAccessible::queryAccessibleInterface(focused()) : nullptr;
+        QAccessibleInterface* node =
+            focused() ? QAccessible::queryAccessibleInterface(focused()) : nullptr;
         return node && node->text(QAccessible::Name) == name;
     };
     // Once round everything a screen shows, and a little more.
@@ -141,7 +162,9 @@ void AppHarness::scroll(QPointF at, int notches) {
     settle(50);
 }
 
-bool AppHarness::turn(const QString& title, int rows) { return turn(findByName(title), rows); }
+bool AppHarness::turn(const QString& title, int rows) {
+    return turn(findByName(title), rows);
+}
 
 bool AppHarness::turn(QQuickItem* wheel, int rows) {
     if (!wheel) return false;
@@ -150,7 +173,9 @@ bool AppHarness::turn(QQuickItem* wheel, int rows) {
     return QTest::qWaitFor([wheel] { return !wheel->property("moving").toBool(); }, 10000);
 }
 
-QImage AppHarness::grab() { return quickWindow()->grabWindow(); }
+QImage AppHarness::grab() {
+    return quickWindow()->grabWindow();
+}
 
 QString AppHarness::saveScreenshot(const QString& name) {
     const QString folder = QDir::currentPath() + "/screenshots";

@@ -69,6 +69,9 @@ public:
     bool turn(const QString& title, int rows);
     bool turn(QQuickItem* wheel, int rows);
 
+    // The item of the layout drawing screen, or null while it is not drawn.
+    QQuickItem* layoutOf(const QObject* screen);
+
     QImage grab();
     // Saves under the build folder's screenshots/; returns the path.
     QString saveScreenshot(const QString& name);

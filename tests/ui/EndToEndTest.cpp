@@ -4,7 +4,7 @@
 
 #include <QQuickItem>
 
-#include "app/MoreScreen.h"
+#include "app/tabs/MoreScreen.h"
 #include "store/AppState.h"
 #include "support/AppHarness.h"
 #include "ui/TabBarController.h"

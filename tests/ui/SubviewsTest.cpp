@@ -11,7 +11,6 @@
 #include <QTest>
 #include <memory>
 
-#include "ui/Kit.h"
 #include "ui/Label.h"
 #include "ui/LiveRowsModel.h"
 #include "ui/ShapeLayer.h"
@@ -91,15 +90,14 @@ TEST(LiveRows, PassChangesThroughAfterTheRetiredAndRestartWhenARetiredOneGoes) {
 // twice side by side, once flattened and once with every renderer live, over a background that
 // shows any pixel out of place.
 TEST(Subviews, AFlattenedPileLooksLikeTheLiveOne) {
-    registerKitTypes();
     QQmlEngine engine;
     QQmlComponent component(&engine);
     component.setData(R"(
         import QtQuick
-        import "qrc:/ui"
+        import CalorieCounter.Kit
         Window {
             id: window
-            property var view
+            property View view
             property alias flattened: flattened
             property alias live: live
             width: 400; height: 120; visible: true
@@ -153,7 +151,8 @@ TEST(Subviews, AFlattenedPileLooksLikeTheLiveOne) {
         return shot.copy(0, 0, 200, 120) == shot.copy(200, 0, 200, 120);
     };
     const auto flattenedSettles = [&] {
-        return QTest::qWaitFor([&] { return flattened->childItems().size() < 40 && halvesAlike(); }, 20000);
+        return QTest::qWaitFor([&] { return flattened->childItems().size() < 40 && halvesAlike(); },
+                               20000);
     };
 
     shapes(40);

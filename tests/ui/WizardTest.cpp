@@ -8,7 +8,7 @@
 #include <QAccessible>
 #include <QQuickItem>
 
-#include "app/TabBar.h"
+#include "app/tabs/TabBar.h"
 #include "setup/BirthdayScreen.h"
 #include "setup/CalorieBudget.h"
 #include "store/AppState.h"
@@ -88,7 +88,8 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
 
     // 5: the wheels start on 40 cm, or on 1 foot 0 inches, which placing them did not record;
     // the label shows the row each turn settles on.
-    EXPECT_EQ(std::tuple(state.heightCm, state.heightFeet, state.heightInches), std::tuple(0, 0, 0));
+    EXPECT_EQ(std::tuple(state.heightCm, state.heightFeet, state.heightInches),
+              std::tuple(0, 0, 0));
     if (pad) {
         ASSERT_TRUE(app.turn("Feet", 3) && app.turn("Inches", 2));
         EXPECT_TRUE(state.heightFeet > 1 && state.heightInches > 0);
@@ -129,7 +130,8 @@ TEST_P(Wizard, FirstStartGoesThroughSixStepsToTheTabs) {
     EXPECT_NE(qobject_cast<TabBar*>(top()), nullptr);
     EXPECT_NE(app.findByName("Today"), nullptr);
     app.saveScreenshot(pad ? "pad-wizard-7-tabs" : "phone-wizard-7-tabs");
-    for (const char* wizard : {"‹ Back", "Previous", "Year", "Start my plan", "When were you born?"})
+    for (const char* wizard :
+         {"‹ Back", "Previous", "Year", "Start my plan", "When were you born?"})
         EXPECT_EQ(app.findByName(wizard), nullptr) << wizard;
     if (!pad) {
         EXPECT_TRUE(app.tabTo("Today"));

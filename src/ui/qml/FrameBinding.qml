@@ -1,10 +1,12 @@
 import QtQuick
+import QtQml
+import CalorieCounter.Kit
 
 // Places item at the model's frame when code has set one; otherwise the layout's geometry holds.
 QtObject {
     id: frame
     required property Item item
-    property var model
+    property View model
     // False where a container places the item and only its size counts (a bar button's view).
     property bool positioned: true
     readonly property bool active: !!model && model.frame.width > 0 && model.frame.height > 0

@@ -1,16 +1,17 @@
+pragma ComponentBehavior: Bound
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders an ActionSheet: the choices in a rounded group at the bottom, then Cancel on its own.
-// To assistive technology it is a dialog named by its title. It takes the keyboard as it shows
-// (Tab reaches its buttons); Escape presses Cancel.
+// To assistive technology it is a dialog named by its title. The window gives it the keyboard as
+// it shows (Tab reaches its buttons); Escape presses Cancel.
 FocusScope {
     id: root
     property ActionSheet model
     readonly property int cancelIndex: model ? model.otherButtonTitles.length : 0
     anchors.fill: parent
 
-    Rectangle { anchors.fill: parent; color: "#66000000" }
+    Rectangle { anchors.fill: parent; color: Theme.dimming }
     MouseArea { anchors.fill: parent }
 
     Column {
@@ -24,7 +25,7 @@ FocusScope {
             width: parent.width
             height: group.height
             radius: 13
-            color: "#F2F2F2"
+            color: Theme.group
             Column {
                 id: group
                 width: parent.width
@@ -39,17 +40,18 @@ FocusScope {
                 Repeater {
                     model: root.model ? root.model.otherButtonTitles : []
                     Column {
+                        id: choice
                         required property string modelData
                         required property int index
                         width: group.width
-                        Rectangle { width: parent.width; height: 1; color: "#D0D0D0" }
+                        Rectangle { width: parent.width; height: 1; color: Theme.groupLine }
                         KitButton {
                             width: parent.width
                             height: 56
                             focusRing.anchors.margins: 3
-                            model: Button { title: modelData; titleColor: Theme.tint }
+                            model: Button { title: choice.modelData; titleColor: Theme.tint }
                             font.pixelSize: 20
-                            onTouchUpInside: root.model.clickButtonAtIndex(index)
+                            onTouchUpInside: root.model.clickButtonAtIndex(choice.index)
                         }
                     }
                 }
@@ -59,7 +61,7 @@ FocusScope {
             width: parent.width
             height: 56
             radius: 13
-            color: "white"
+            color: Theme.field
             KitButton {
                 anchors.fill: parent
                 radius: 13
@@ -73,6 +75,4 @@ FocusScope {
     }
 
     Keys.onEscapePressed: model.clickButtonAtIndex(cancelIndex)
-    // Once the window holds it: the keyboard cannot be given before.
-    Component.onCompleted: Qt.callLater(() => root.forceActiveFocus())
 }

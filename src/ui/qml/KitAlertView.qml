@@ -1,16 +1,17 @@
+pragma ComponentBehavior: Bound
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders an AlertView: a centred box over a dimmed window; any button dismisses it. To assistive
 // technology it is an alert named by its title with its message as description, announced as it
-// shows. It takes the keyboard as it shows (Tab reaches its buttons): Return, Enter and Escape
-// press the cancel button (index 0).
+// shows. The window gives it the keyboard as it shows (Tab reaches its buttons): Return, Enter
+// and Escape press the cancel button (index 0).
 FocusScope {
     id: root
     property AlertView model
     anchors.fill: parent
 
-    Rectangle { anchors.fill: parent; color: "#66000000" }
+    Rectangle { anchors.fill: parent; color: Theme.dimming }
     MouseArea { anchors.fill: parent }  // the alert is modal
 
     Rectangle {
@@ -18,7 +19,7 @@ FocusScope {
         width: 270
         height: content.height
         radius: 13
-        color: "#F2F2F2"
+        color: Theme.group
         Accessible.role: Accessible.AlertMessage
         Accessible.name: root.model ? root.model.title : ""
         Accessible.description: root.model ? root.model.message : ""
@@ -47,16 +48,17 @@ FocusScope {
             Repeater {
                 model: root.model ? root.model.buttonTitles : []
                 Column {
+                    id: choice
                     required property string modelData
                     required property int index
                     width: content.width
-                    Rectangle { width: parent.width; height: 1; color: "#D0D0D0" }
+                    Rectangle { width: parent.width; height: 1; color: Theme.groupLine }
                     KitButton {
                         width: parent.width
                         height: 44
                         focusRing.anchors.margins: 3
-                        model: Button { title: modelData; titleColor: Theme.tint }
-                        onTouchUpInside: root.model.clickButtonAtIndex(index)
+                        model: Button { title: choice.modelData; titleColor: Theme.tint }
+                        onTouchUpInside: root.model.clickButtonAtIndex(choice.index)
                     }
                 }
             }
@@ -68,6 +70,4 @@ FocusScope {
         event.accepted = true
         model.clickButtonAtIndex(0)
     }
-    // Once the window holds it: the keyboard cannot be given before.
-    Component.onCompleted: Qt.callLater(() => root.forceActiveFocus())
 }

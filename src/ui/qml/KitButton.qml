@@ -1,5 +1,5 @@
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a Button: its image, or its title in its title colour; touch-up-inside on release, on
 // Space or Return while it has the keyboard, and on assistive technology's press. A checkable
@@ -26,13 +26,13 @@ Item {
         id: image
         anchors.centerIn: parent
         source: Theme.imageUrl(root.model?.imageName ?? "")
-        opacity: area.pressed && root.model?.adjustsImageWhenHighlighted ? 0.5 : 1
+        opacity: area.pressed && (root.model?.adjustsImageWhenHighlighted ?? false) ? 0.5 : 1
     }
     Text {
         id: title
         anchors.fill: parent
         text: root.model?.title ?? ""
-        color: root.model?.titleColor ?? "black"
+        color: root.model?.titleColor ?? Theme.text
         opacity: area.pressed ? 0.4 : 1
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -46,7 +46,7 @@ Item {
         anchors.fill: parent
         onClicked: root.press()
     }
-    KitFocusRing { id: ring }
+    KitFocusRing { id: ring; controlRadius: root.radius }
 
     Keys.onPressed: event => {
         if (![Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter].includes(event.key)) return

@@ -1,5 +1,5 @@
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a DatePicker: wheels for month, day and year. Each wheel the user turns sets the date
 // at once; a date set from code turns the wheels.
@@ -20,8 +20,7 @@ Item {
             width: root.width * 0.46
             height: root.height
             font: root.font
-            model: 12
-            titleAt: row => root.model.monthNames[row] ?? ""
+            source: root.model.months
             onSettled: root.apply()
         }
         KitWheel {
@@ -30,8 +29,7 @@ Item {
             width: root.width * 0.2
             height: root.height
             font: root.font
-            model: root.model.daysInMonth
-            titleAt: row => String(row + 1)
+            source: root.model.days
             onSettled: root.apply()
         }
         KitWheel {
@@ -40,8 +38,7 @@ Item {
             width: root.width * 0.34
             height: root.height
             font: root.font
-            model: root.model.maximumYear - root.model.minimumYear + 1
-            titleAt: row => String(root.model.minimumYear + row)
+            source: root.model.years
             onSettled: root.apply()
         }
     }
@@ -55,7 +52,8 @@ Item {
         year.select(model.year - model.minimumYear)
     }
     // After the day wheel has taken the month's new length.
-    Connections { target: root.model; function onDateChanged() { Qt.callLater(root.show) } }
+    Connections { target: root.model; function onDateChanged() { showLater.restart() } }
+    Timer { id: showLater; interval: 0; onTriggered: root.show() }
     Component.onCompleted: show()
 
     FrameBinding { item: root; model: root.model }

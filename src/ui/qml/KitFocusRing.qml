@@ -1,15 +1,16 @@
 import QtQuick
+import CalorieCounter.Kit
 
 // The ring around the control that has the keyboard, just outside its edge and following the
-// rounding of a control that has a radius, in the platform's focus blue so that it never reads
-// as the red of a chosen answer.
+// rounding of the control it rings (radius).
 Rectangle {
+    property real controlRadius: 3
     anchors.fill: parent
     anchors.margins: -3
-    radius: Math.max(0, (parent.radius ?? 3) - anchors.margins)
+    radius: Math.max(0, controlRadius - anchors.margins)
     z: 1
-    color: "transparent"
+    color: Theme.clear
     border.width: 2
-    border.color: "#0A84FF"
+    border.color: Theme.focusRing
     visible: parent.activeFocus
 }

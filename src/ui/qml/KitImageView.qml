@@ -1,5 +1,5 @@
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 Image {
     id: root

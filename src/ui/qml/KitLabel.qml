@@ -1,28 +1,29 @@
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
-// Renders a Label over its background colour. A font named "...-Thin" or "...-Bold" that this
-// machine lacks falls back to a thin or bold sans face.
+// Renders a Label over its background colour, in the face its model names when this machine has
+// it (a missing "...-Thin" or "...-Bold" face keeps its weight). A renderer made by a list may
+// outlive its model for a moment; it then shows nothing.
 Text {
     id: root
     property Label model: Label {}
 
-    visible: !model.hidden
-    text: model.text
-    color: model.textColor
-    wrapMode: model.adjustsFontSizeToFitWidth ? Text.NoWrap : Text.WordWrap
-    fontSizeMode: model.adjustsFontSizeToFitWidth ? Text.HorizontalFit : Text.FixedSize
+    visible: !(model?.hidden ?? true)
+    text: model?.text ?? ""
+    color: model?.textColor ?? Theme.text
+    wrapMode: model?.adjustsFontSizeToFitWidth ? Text.NoWrap : Text.WordWrap
+    fontSizeMode: model?.adjustsFontSizeToFitWidth ? Text.HorizontalFit : Text.FixedSize
     minimumPixelSize: 8
     verticalAlignment: Text.AlignVCenter  // a label centres its text in its frame
-    horizontalAlignment: [Text.AlignLeft, Text.AlignHCenter, Text.AlignRight, Text.AlignJustify][model.textAlignment] ?? Text.AlignLeft
-    font.family: model.fontName && Theme.hasFont(model.fontName) ? model.fontName : Theme.fontFamily
-    font.weight: model.fontName.endsWith("-Thin") ? Font.Thin : model.fontName.endsWith("-Bold") ? Font.Bold : Font.Normal
-    font.pixelSize: model.fontSize > 0 ? model.fontSize : 17
+    horizontalAlignment: [Text.AlignLeft, Text.AlignHCenter, Text.AlignRight, Text.AlignJustify][model?.textAlignment ?? 0] ?? Text.AlignLeft
+    font.family: Theme.familyFor(model?.fontName ?? "")
+    font.weight: Theme.weightFor(model?.fontName ?? "")
+    font.pixelSize: (model?.fontSize ?? 0) > 0 ? model.fontSize : 17
 
     Rectangle {
         anchors.fill: parent
         z: -1  // beneath the text
-        color: root.model.backgroundColor
+        color: root.model?.backgroundColor ?? Theme.clear
         visible: color.a > 0
     }
 

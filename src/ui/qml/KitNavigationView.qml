@@ -1,6 +1,6 @@
 import QtQuick
-import QtQuick.Controls.Basic
-import CalorieKit
+import QtQuick.Controls.Basic as T
+import CalorieCounter.Kit
 
 // Renders a NavigationController: the bar of the top screen and the stack of screen layouts.
 // Only the top screen takes input; the stack hides the ones beneath once it has slid over them.
@@ -8,6 +8,8 @@ import CalorieKit
 Item {
     id: root
     property NavigationController nav
+    // What draws a screen: made for each screen on the stack, with the screen as its `screen`.
+    property Component screenDelegate
     readonly property ViewController topScreen: nav ? nav.topViewController : null
     readonly property NavigationItem navItem: topScreen ? topScreen.navigationItem : null
 
@@ -68,7 +70,7 @@ Item {
         }
     }
 
-    StackView {
+    T.StackView {
         id: stack
         anchors.fill: parent
         anchors.topMargin: bar.visible ? bar.height : 0
@@ -78,28 +80,21 @@ Item {
 
     Component {
         id: host
-        FocusScope {
-            id: page
-            property ViewController screen
-            enabled: screen === root.topScreen
-            Loader {
-                anchors.fill: parent
-                Component.onCompleted: setSource("qrc:/layouts/" + (page.screen.layoutName || "Empty") + ".qml",
-                                                 { screen: page.screen })
-            }
-            StackView.onRemoved: root.nav.finishedRemoving(page.screen)
-        }
+        KitScreenPage {}
+    }
+    function page(controller: ViewController) {
+        return { screen: controller, nav: root.nav, screenDelegate: root.screenDelegate }
     }
 
     Connections {
         target: root.nav
         function onPushed(controller, animated) {
-            stack.push(host, { screen: controller }, animated ? StackView.PushTransition : StackView.Immediate)
-            Qt.callLater(root.focusTop)
+            stack.push(host, root.page(controller), animated ? T.StackView.PushTransition : T.StackView.Immediate)
+            root.focusTopLater()
         }
         function onPopped(count, animated) {
-            stack.pop(stack.get(stack.depth - 1 - count), animated ? StackView.PopTransition : StackView.Immediate)
-            Qt.callLater(root.focusTop)
+            stack.pop(stack.get(stack.depth - 1 - count), animated ? T.StackView.PopTransition : T.StackView.Immediate)
+            root.focusTopLater()
         }
     }
 
@@ -108,14 +103,17 @@ Item {
     function focusTop() {
         if (visible && enabled && stack.currentItem) stack.currentItem.forceActiveFocus()
     }
+    // Once the stack and what covers it have settled.
+    function focusTopLater() { focusLater.restart() }
+    Timer { id: focusLater; interval: 0; onTriggered: root.focusTop() }
 
     // The stack as it is when this view starts rendering a controller; later changes animate.
     function rebuild() {
-        stack.clear(StackView.Immediate)
+        stack.clear(T.StackView.Immediate)
         if (!nav) return
         nav.rendered = true
-        for (const controller of nav.viewControllers)
-            stack.push(host, { screen: controller }, StackView.Immediate)
+        for (let i = 0; i < nav.viewControllers.length; ++i)
+            stack.push(host, root.page(nav.viewControllers[i]), T.StackView.Immediate)
     }
     onNavChanged: rebuild()
     Component.onCompleted: rebuild()

@@ -1,5 +1,6 @@
+pragma ComponentBehavior: Bound
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a PickerView: one wheel per component, side by side and equally wide. Titles and the
 // wheels' accessible names are asked of the picker; a reload builds the wheels anew.
@@ -16,18 +17,18 @@ Item {
         anchors.fill: parent
         Repeater {
             id: wheels
-            model: root.model.rowCounts
+            model: root.model.wheels
             KitWheel {
-                required property int modelData
+                id: wheel
+                required property Wheel modelData
                 required property int index
+                source: modelData
                 width: root.width / wheels.count
                 height: root.height
                 font: root.font
-                model: modelData
-                titleAt: row => root.model.titleForRow(row, index)
-                Accessible.name: root.model.accessibilityLabelForComponent(index)
-                onSettled: row => root.model.userSelectedRow(row, index)
-                Component.onCompleted: select(root.model.selectedRowInComponent(index))
+                Accessible.name: root.model.accessibilityLabelForComponent(wheel.index)
+                onSettled: row => root.model.userSelectedRow(row, wheel.index)
+                Component.onCompleted: select(root.model.selectedRowInComponent(wheel.index))
             }
         }
     }
@@ -35,7 +36,7 @@ Item {
     Connections {
         target: root.model
         function onRowSelected(row, component, animated) {
-            const wheel = wheels.itemAt(component)
+            const wheel = wheels.itemAt(component) as KitWheel
             if (wheel) wheel.select(row)
         }
     }

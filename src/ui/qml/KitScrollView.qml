@@ -1,5 +1,5 @@
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a ScrollView; the layout's children become its content.
 Flickable {

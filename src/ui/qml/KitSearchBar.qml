@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic as Controls
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a SearchBar: a rounded field with a magnifier, and the cancel button sliding in beside
 // it while shown. Every change of the text that code did not make is the user's, however it came
@@ -21,7 +21,7 @@ Item {
         width: root.width - 16 - (root.cancelShown ? cancel.width + 4 : 0)
         height: 36
         radius: 10
-        color: "white"
+        color: Theme.field
         border.color: field.activeFocus ? Theme.tint : Theme.barLine
         Behavior on width {
             enabled: root.model.cancelButtonAnimated
@@ -34,7 +34,7 @@ Item {
             width: 14; height: 14
             Rectangle {
                 width: 11; height: 11; radius: 5.5
-                color: "transparent"
+                color: Theme.clear
                 border { width: 1.6; color: Theme.secondaryText }
             }
             Rectangle {

@@ -1,9 +1,10 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Qt.labs.qmlmodels
-import CalorieKit
+import CalorieCounter.Kit
 
-// Draws the views and layers that code added to a View, in the order added, each by the
-// renderer of its kind: made when the view is added, destroyed when it is removed.
+// Draws the views and layers that code added to a View (labels and shape layers), in the order
+// added, each by its class's renderer: made when the view is added, destroyed when it is removed.
 //
 // Code may pile views up (a screen adds a line and two labels on every appearance), and every
 // live item costs time on each frame and each show or hide. So once there are more than a few
@@ -13,13 +14,13 @@ import CalorieKit
 // that is redrawn) and what a screen reader reads.
 Item {
     id: root
-    property var view
+    property View view
 
     property int flattenAbove: 24  // live items
     readonly property int keepLive: 6
     property bool flattening: false
     property int generation: 0  // a grab begun in an earlier one is stale
-    property var grab: null     // keeps the picture's url valid
+    property QtObject grab: null  // the ItemGrabResult, which keeps the picture's url valid
 
     // The flattened pile, then the items being flattened onto it: below every live item. The
     // holder shares this item's coordinates, so an item moved into it stays where it is.
@@ -44,22 +45,14 @@ Item {
             role: "kind"
             DelegateChoice {
                 roleValue: "Label"
-                KitLabel { required property var modelData; model: modelData }
+                KitLabel { required property Label modelData; model: modelData }
             }
             DelegateChoice {
                 roleValue: "ShapeLayer"
-                KitShapeLayer { required property var modelData; model: modelData }
-            }
-            DelegateChoice {
-                Loader {
-                    required property var modelData
-                    required property string kind
-                    source: "Kit" + kind + ".qml"
-                    onLoaded: item.model = modelData
-                }
+                KitShapeLayer { required property ShapeLayer modelData; model: modelData }
             }
         }
-        onItemAdded: Qt.callLater(root.flatten)
+        onItemAdded: flattenLater.restart()
         onItemRemoved: (index, item) => { if (item.parent === holder) root.generation++ }
     }
     onVisibleChanged: {
@@ -68,8 +61,10 @@ Item {
             generation++
             flattening = false
         }
-        Qt.callLater(flatten)
+        flattenLater.restart()
     }
+    // Once per batch of changes.
+    Timer { id: flattenLater; interval: 0; onTriggered: root.flatten() }
 
     function flatten() {
         if (flattening || !visible || renderers.count <= flattenAbove) return
@@ -102,7 +97,7 @@ Item {
         generation++
         picture.source = ""
         grab = null
-        Qt.callLater(flatten)
+        flattenLater.restart()
     }
 
     // Where an item may draw, in this item's coordinates: its box, grown by text that overflows

@@ -1,33 +1,47 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls.impl
-import QtQuick.Layouts
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a TabBarController: the selected tab's navigation stack over a bar of tab buttons.
 // The other tabs' stacks are hidden; as it appears, the selected tab's top screen gets the keyboard.
 Rectangle {
     id: root
     property TabBarController controller
-    color: "transparent"
+    // What draws a screen of a tab's stack (see KitNavigationView).
+    property Component screenDelegate
+    color: Theme.clear
 
-    StackLayout {
+    // A tab's screens are drawn from its first visit on, not all at start-up.
+    component TabPage: Item {
+        id: page
+        required property NavigationController modelData
+        required property int index
+        readonly property bool selected: index === root.controller.selectedIndex
+        anchors.fill: parent
+        visible: selected
+        property bool visited: false
+        readonly property KitNavigationView stack: stacks.count > 0 ? stacks.itemAt(0) as KitNavigationView : null
+        onSelectedChanged: if (selected) visited = true
+        Component.onCompleted: visited = selected
+        Repeater {
+            id: stacks
+            model: page.visited ? 1 : 0
+            KitNavigationView {
+                width: page.width
+                height: page.height
+                nav: page.modelData
+                screenDelegate: root.screenDelegate
+            }
+        }
+    }
+
+    Item {
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: bar.top }
-        currentIndex: root.controller.selectedIndex
         Repeater {
             id: tabs
             model: root.controller.viewControllers
-            // A tab's screens are drawn from its first visit on, not all at start-up.
-            Loader {
-                id: tab
-                required property var modelData
-                required property int index
-                readonly property bool selected: index === root.controller.selectedIndex
-                property bool visited: false
-                active: visited
-                onSelectedChanged: if (selected) visited = true
-                Component.onCompleted: visited = selected
-                sourceComponent: KitNavigationView { nav: tab.modelData }
-            }
+            TabPage {}
         }
     }
 
@@ -46,7 +60,7 @@ Rectangle {
                 model: root.controller.viewControllers
                 Item {
                     id: tab
-                    required property var modelData
+                    required property NavigationController modelData
                     required property int index
                     readonly property bool selected: root.controller.selectedIndex === index
                     readonly property color tint: selected ? (root.controller.tintColor.a > 0 ? root.controller.tintColor : Theme.tint) : Theme.inactive
@@ -56,7 +70,8 @@ Rectangle {
                         anchors.horizontalCenter: parent.horizontalCenter
                         y: 4
                         width: 26; height: 26
-                        sourceSize: Qt.size(26, 26)
+                        sourceSize.width: 26
+                        sourceSize.height: 26
                         source: Theme.imageUrl(tab.modelData.tabBarItem.imageName)
                         color: tab.tint
                     }
@@ -89,8 +104,14 @@ Rectangle {
         }
     }
 
-    Component.onCompleted: Qt.callLater(() => {
-        const selected = tabs.itemAt(root.controller.selectedIndex)
-        if (selected && selected.item) selected.item.focusTop()
-    })
+    // Once shown, the keyboard starts on the selected tab's top screen.
+    Component.onCompleted: firstFocus.start()
+    Timer {
+        id: firstFocus
+        interval: 0
+        onTriggered: {
+            const selected = tabs.itemAt(root.controller.selectedIndex) as TabPage
+            if (selected && selected.stack) selected.stack.focusTop()
+        }
+    }
 }

@@ -1,19 +1,19 @@
+pragma ComponentBehavior: Bound
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a TableView as a virtualized list: only the rows on screen (and a few about to come)
 // exist, each drawing the cell its data source made for it, with the table's header view
 // scrolling above the first row and each section's header view staying at the top while its
-// rows pass. A tap, Return or Space on the row that has the keyboard, or a screen reader's press
-// selects it.
+// rows pass (a table's header view is its search bar, where it has one). A tap, Return or Space on
+// the row that has the keyboard, or a screen reader's press selects it.
 Item {
     id: root
-    property TableView model: TableView {}
+    property TableViewModel model: TableViewModel {}
     property real rowHeight: 44
-    property real sectionHeaderHeight: 22
     property real separatorInset: 15
-    property color selectionColor: "#D9D9D9"
-    property color separatorColor: "#22000000"
+    property color selectionColor: Theme.rowSelection
+    property color separatorColor: Theme.rowSeparator
     // For layouts: how many rows the table has now (all sections), and where they begin.
     readonly property int rowCount: list.count
     readonly property real headerHeight: list.headerItem ? list.headerItem.height : 0
@@ -29,6 +29,8 @@ Item {
     Rectangle { anchors.fill: parent; color: root.model.backgroundColor }
     Label { id: noLabel }
 
+    KitTableParts { id: parts }
+
     ListView {
         id: list
         anchors.fill: parent
@@ -39,25 +41,11 @@ Item {
         Accessible.role: Accessible.List
         Accessible.ignored: !visible || !enabled
 
-        header: Loader {
-            readonly property View view: root.model.tableHeaderView
-            width: list.width
-            active: !!view
-            source: view ? "Kit" + view.kind + ".qml" : ""
-            onLoaded: item.model = view
-        }
+        header: root.model.tableHeaderView instanceof SearchBar ? parts.searchBar : null
 
         section.property: "section"
         section.labelPositioning: ViewSection.InlineLabels | ViewSection.CurrentLabelAtStart
-        section.delegate: Item {
-            id: header
-            required property string section
-            readonly property View view: root.model.headerViewForSection(Number(section))
-            width: list.width
-            height: view ? root.sectionHeaderHeight : 0
-            clip: true
-            KitSubviews { view: header.view }
-        }
+        section.delegate: parts.sectionHeader
 
         delegate: Item {
             id: row
@@ -93,7 +81,7 @@ Item {
 
             Rectangle {
                 anchors.fill: parent
-                color: row.cell ? row.cell.backgroundColor : "transparent"
+                color: row.cell ? row.cell.backgroundColor : Theme.clear
             }
             Rectangle {
                 id: highlight
@@ -118,7 +106,7 @@ Item {
             }
             Rectangle {
                 anchors.fill: parent
-                color: "transparent"
+                color: Theme.clear
                 border { width: 2; color: Theme.tint }
                 visible: row.activeFocus
             }
@@ -204,5 +192,5 @@ Item {
         scrolling.start()
     }
     // The rows are first asked for once the screen has loaded, as the platform lays a table out.
-    Component.onCompleted: Qt.callLater(() => root.model && root.model.layoutIfNeeded())
+    Timer { running: true; interval: 0; onTriggered: root.model.layoutIfNeeded() }
 }

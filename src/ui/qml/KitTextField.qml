@@ -1,13 +1,12 @@
 import QtQuick
 import QtQuick.Controls.Basic as Controls
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a TextField; its text flows back into the model on every edit. While the model is the
-// first responder the field has the keyboard, so typing goes in at once. The control is named
-// by its module: CalorieKit's TextField is the model type.
+// first responder the field has the keyboard, so typing goes in at once.
 Controls.TextField {
     id: root
-    property var model: null
+    property TextField model: TextField {}
     visible: !model.hidden
     text: model.text
     placeholderText: model.placeholder

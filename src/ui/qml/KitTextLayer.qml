@@ -1,19 +1,20 @@
 import QtQuick
-import CalorieKit
+import CalorieCounter.Kit
 
 // Renders a TextLayer: its string from the top of its frame, over its background colour. An
 // animation added to the layer plays on a presentation copy of the animated property and then
-// leaves the model's own value showing again. Colour properties are the ones animated so far.
+// leaves the model's own value showing again. Colour properties are the ones animated so far. A
+// renderer made by a list may outlive its model for a moment; it then draws nothing.
 Rectangle {
     id: root
     property TextLayer model: TextLayer {}
 
-    x: model.frame.x
-    y: model.frame.y
-    width: model.frame.width
-    height: model.frame.height
-    visible: !model.hidden
-    color: model.backgroundColor
+    x: model?.frame.x ?? 0
+    y: model?.frame.y ?? 0
+    width: model?.frame.width ?? 0
+    height: model?.frame.height ?? 0
+    visible: !(model?.hidden ?? true)
+    color: model?.backgroundColor ?? Theme.clear
     Accessible.ignored: true
 
     // Stands in for the background while an animation of it plays.
@@ -24,14 +25,13 @@ Rectangle {
     }
     Text {
         anchors.fill: parent
-        text: root.model.string
-        color: root.model.foregroundColor
-        font.family: Qt.fontFamilies().indexOf(root.model.fontName) >= 0 ? root.model.fontName
-                                                                          : Theme.fontFamily
-        font.pixelSize: root.model.fontSize
+        text: root.model?.string ?? ""
+        color: root.model?.foregroundColor ?? Theme.clear
+        font.family: Theme.familyFor(root.model?.fontName ?? "")
+        font.pixelSize: root.model?.fontSize ?? 1
         verticalAlignment: Text.AlignTop
         horizontalAlignment: ({ right: Text.AlignRight, center: Text.AlignHCenter,
-                                justified: Text.AlignJustify })[root.model.alignmentMode]
+                                justified: Text.AlignJustify })[root.model?.alignmentMode ?? ""]
                              ?? Text.AlignLeft
     }
 
@@ -43,31 +43,24 @@ Rectangle {
         onFinished: root.model.animationDidStop(key)
     }
 
-    // Cubic timing curves by name, and played backwards for the way back.
-    readonly property var curves: ({ easeIn: [0.42, 0, 1, 1], easeOut: [0, 0, 0.58, 1],
-                                     easeInEaseOut: [0.42, 0, 0.58, 1] })
-    function curve(points, reversed) {
-        const [x1, y1, x2, y2] = reversed ? [1 - points[2], 1 - points[3], 1 - points[0], 1 - points[1]]
-                                          : points
-        return [x1, y1, x2, y2, 1, 1]
-    }
-    function play(key) {
-        const a = model.animationDescription(key)
-        if (a.keyPath !== "backgroundColor") return
+    function play(key: string) {
+        const a = model.colourFlash(key)
+        if (!a.valid) return
         flash.stop()
         flash.key = key
-        const points = curves[a.timingFunction]
-        for (const [step, reversed] of [[there, false], [back, true]]) {
-            step.duration = a.duration * 1000
-            step.easing.type = points ? Easing.Bezier : Easing.Linear
-            if (points) step.easing.bezierCurve = curve(points, reversed)
+        there.duration = a.duration
+        back.duration = a.reverses ? a.duration : 0
+        there.easing.type = a.curve.length > 0 ? Easing.Bezier : Easing.Linear
+        back.easing.type = there.easing.type
+        if (a.curve.length > 0) {
+            there.easing.bezierCurve = a.curve
+            back.easing.bezierCurve = a.backCurve
         }
         there.from = model.backgroundColor
-        there.to = a.toValue
-        back.from = a.toValue
-        back.to = a.autoreverses ? model.backgroundColor : a.toValue
-        back.duration = a.autoreverses ? back.duration : 0
-        flash.loops = Math.max(1, Math.ceil(a.repeatCount))
+        there.to = a.to
+        back.from = a.to
+        back.to = a.reverses ? model.backgroundColor : a.to
+        flash.loops = a.loops
         flash.start()
     }
     Connections {

@@ -1,5 +1,7 @@
+pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Controls.Basic as T
+import CalorieCounter.Kit
 
 // One wheel of a picker: rows drawn by title, the chosen one in a band across the middle.
 // A user's turn, however it is made, ends in one settled(row): a drag or flick when the wheel
@@ -9,9 +11,9 @@ import QtQuick.Controls.Basic
 // number on the wheel; a wheel of words counts its rows from 1 and gives the word as description.
 Item {
     id: wheel
-    property alias model: tumbler.model
+    // Null once its picker has made new wheels, until this one goes.
+    required property Wheel source
     property alias font: tumbler.font
-    property var titleAt: row => ""
     readonly property alias count: tumbler.count
     readonly property alias currentIndex: tumbler.currentIndex
     readonly property alias moving: tumbler.moving
@@ -28,9 +30,10 @@ Item {
     implicitHeight: tumbler.implicitHeight
     activeFocusOnTab: true
 
-    Tumbler {
+    T.Tumbler {
         id: tumbler
         anchors.fill: parent
+        model: wheel.source ? wheel.source.count : 0
         wrap: false
         visibleItemCount: 5
         focusPolicy: Qt.NoFocus
@@ -45,7 +48,7 @@ Item {
                 width: parent.width
                 height: tumbler.availableHeight / tumbler.visibleItemCount
                 anchors.verticalCenter: parent.verticalCenter
-                color: "#0F000000"
+                color: Theme.wheelBand
                 Rectangle { width: parent.width; height: 1; color: Theme.barLine }
                 Rectangle { width: parent.width; height: 1; anchors.bottom: parent.bottom; color: Theme.barLine }
             }
@@ -55,7 +58,7 @@ Item {
             text: wheel.titleAt(index)
             color: Theme.text
             font: tumbler.font
-            opacity: 1.0 - Math.abs(Tumbler.displacement) / (tumbler.visibleItemCount / 2 + 0.5)
+            opacity: 1.0 - Math.abs(T.Tumbler.displacement) / (tumbler.visibleItemCount / 2 + 0.5)
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
@@ -103,7 +106,7 @@ Item {
     // Puts row in the band at once: given only a new currentIndex, the wheel crawls there.
     function select(row) {
         tumbler.currentIndex = row
-        tumbler.positionViewAtIndex(row, Tumbler.Center)
+        tumbler.positionViewAtIndex(row, T.Tumbler.Center)
         // Before the wheel's first layout, positioning settles the band one row on.
         tumbler.currentIndex = row
     }
@@ -120,6 +123,7 @@ Item {
     }
 
     function hasRow(row) { return row >= 0 && row < count }
+    function titleAt(row: int): string { return source ? source.title(row) : "" }
     function numberAt(row) {
         const title = titleAt(row)
         const number = Number(title)

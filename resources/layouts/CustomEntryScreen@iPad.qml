@@ -1,3 +1,0 @@
-import QtQuick
-
-CustomEntryScreen { pad: true }

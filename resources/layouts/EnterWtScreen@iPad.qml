@@ -1,3 +1,0 @@
-import QtQuick
-
-EnterWtScreen { pad: true }

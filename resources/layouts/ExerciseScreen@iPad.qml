@@ -1,3 +1,0 @@
-import QtQuick
-
-ExerciseScreen { pad: true }

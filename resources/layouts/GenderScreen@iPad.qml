@@ -1,3 +1,0 @@
-import QtQuick
-
-GenderScreen { pad: true }

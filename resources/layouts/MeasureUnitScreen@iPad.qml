@@ -1,3 +1,0 @@
-import QtQuick
-
-MeasureUnitScreen { pad: true }

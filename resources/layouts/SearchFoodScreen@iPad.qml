@@ -1,3 +1,0 @@
-import QtQuick
-
-SearchFoodScreen { pad: true }
