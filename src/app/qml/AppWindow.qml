@@ -24,73 +24,86 @@ Window {
         ScreenLayout {}
     }
 
-    Image {
-        anchors.fill: parent
-        fillMode: Image.Tile
-        source: Theme.imageUrl(window.model.backgroundPatternImage)
-    }
-    KitNavigationView {
-        id: rootStack
-        anchors.fill: parent
-        nav: window.model.rootViewController
-        screenDelegate: screenLayout
-        visible: !!nav && tabViews.count === 0
-        enabled: !window.modal
-        onNavChanged: focusTopLater()
-    }
-    Repeater {
-        id: tabViews
-        model: window.model.subviews
-        KitTabBarView {
-            required property TabBarController modelData
-            required property int index
+    // The screen the layouts are made for, scaled to the window as WindowModel says; the window's
+    // colour shows beside it.
+    Item {
+        id: canvas
+        x: window.model.canvasX
+        width: window.model.canvasSize.width
+        height: window.model.canvasSize.height
+        scale: window.model.canvasScale
+        transformOrigin: Item.TopLeft
+        clip: true
+
+        Image {
             anchors.fill: parent
-            controller: modelData
+            fillMode: Image.Tile
+            source: Theme.imageUrl(window.model.backgroundPatternImage, Theme.imageScale)
+        }
+        KitNavigationView {
+            id: rootStack
+            anchors.fill: parent
+            nav: window.model.rootViewController
             screenDelegate: screenLayout
-            visible: index === tabViews.count - 1
+            visible: !!nav && tabViews.count === 0
             enabled: !window.modal
+            onNavChanged: focusTopLater()
         }
-    }
-    Repeater {
-        id: presented
-        model: window.model.presented
-        // Once the window holds it and counts it as the modal, it takes the keyboard.
-        onItemAdded: takeFocus.restart()
-        delegate: DelegateChooser {
-            role: "kind"
-            DelegateChoice {
-                roleValue: "AlertView"
-                KitAlertView {
-                    required property AlertView modelData
-                    required property int index
-                    z: 10
-                    enabled: index === presented.count - 1
-                    model: modelData
-                }
-            }
-            DelegateChoice {
-                roleValue: "ActionSheet"
-                KitActionSheet {
-                    required property ActionSheet modelData
-                    required property int index
-                    z: 10
-                    enabled: index === presented.count - 1
-                    model: modelData
-                }
+        Repeater {
+            id: tabViews
+            model: window.model.subviews
+            KitTabBarView {
+                required property TabBarController modelData
+                required property int index
+                anchors.fill: parent
+                controller: modelData
+                screenDelegate: screenLayout
+                visible: index === tabViews.count - 1
+                enabled: !window.modal
             }
         }
+        Repeater {
+            id: presented
+            model: window.model.presented
+            // Once the window holds it and counts it as the modal, it takes the keyboard.
+            onItemAdded: takeFocus.restart()
+            delegate: DelegateChooser {
+                role: "kind"
+                DelegateChoice {
+                    roleValue: "AlertView"
+                    KitAlertView {
+                        required property AlertView modelData
+                        required property int index
+                        z: 10
+                        enabled: index === presented.count - 1
+                        model: modelData
+                    }
+                }
+                DelegateChoice {
+                    roleValue: "ActionSheet"
+                    KitActionSheet {
+                        required property ActionSheet modelData
+                        required property int index
+                        z: 10
+                        enabled: index === presented.count - 1
+                        model: modelData
+                    }
+                }
+            }
+        }
+        StatusOverlayView {
+            anchors.fill: parent
+            z: 50
+            model: window.model.overlay as StatusOverlay
+        }
+        Image {
+            anchors.fill: parent
+            z: 100
+            visible: window.launching
+            source: Theme.imageUrl(window.launchImage, Theme.imageScale)
+        }
     }
-    StatusOverlayView {
-        anchors.fill: parent
-        z: 50
-        model: window.model.overlay as StatusOverlay
-    }
-    Image {
-        anchors.fill: parent
-        z: 100
-        visible: window.launching
-        source: Theme.imageUrl(window.launchImage)
-    }
+    Binding { target: Theme; property: "imageScale"; value: canvas.scale * window.Screen.devicePixelRatio }
 
     // The window takes the keyboard as it appears, so that its first screen has it.
     onVisibleChanged: if (visible) requestActivate()

@@ -70,9 +70,10 @@ Rectangle {
                         anchors.horizontalCenter: parent.horizontalCenter
                         y: 4
                         width: 26; height: 26
-                        sourceSize.width: 26
-                        sourceSize.height: 26
-                        source: Theme.imageUrl(tab.modelData.tabBarItem.imageName)
+                        // Logical pixels: the window multiplies them by its own pixel ratio.
+                        sourceSize.width: 26 * Theme.imageScale / Screen.devicePixelRatio
+                        sourceSize.height: 26 * Theme.imageScale / Screen.devicePixelRatio
+                        source: Theme.imageUrl(tab.modelData.tabBarItem.imageName, Theme.imageScale)
                         color: tab.tint
                     }
                     Text {
@@ -104,10 +105,15 @@ Rectangle {
         }
     }
 
-    // Once shown, the keyboard starts on the selected tab's top screen.
-    Component.onCompleted: firstFocus.start()
+    // Once shown, and whenever a tab is chosen, the keyboard starts on the selected tab's top
+    // screen, which a screen reader then names.
+    Component.onCompleted: focusSelected.start()
+    Connections {
+        target: root.controller
+        function onSelectedIndexChanged() { focusSelected.restart() }
+    }
     Timer {
-        id: firstFocus
+        id: focusSelected
         interval: 0
         onTriggered: {
             const selected = tabs.itemAt(root.controller.selectedIndex) as TabPage
