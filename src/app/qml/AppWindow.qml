@@ -24,11 +24,13 @@ Window {
         ScreenLayout {}
     }
 
+    KeyboardLift { id: keyboardLift; window: window }
     // The screen the layouts are made for, scaled to the window as WindowModel says; the window's
-    // colour shows beside it.
+    // colour shows beside it. It goes up as far as a touch keyboard would cover the focused field.
     Item {
         id: canvas
         x: window.model.canvasX
+        y: -keyboardLift.offset
         width: window.model.canvasSize.width
         height: window.model.canvasSize.height
         scale: window.model.canvasScale
@@ -107,6 +109,19 @@ Window {
 
     // The window takes the keyboard as it appears, so that its first screen has it.
     onVisibleChanged: if (visible) requestActivate()
+    // A screen reader learns which screen is up from the keyboard moving to it, and may miss a
+    // move made as the window became active: the keyboard moves there anew a moment later.
+    onActiveChanged: if (active) refocusOnActive.restart()
+    Timer {
+        id: refocusOnActive
+        interval: 500
+        onTriggered: {
+            const item = window.activeFocusItem
+            if (!item) return
+            window.contentItem.forceActiveFocus()
+            item.forceActiveFocus()
+        }
+    }
     // Remembered only while no modal shows: disabling the layers beneath moves the focus away.
     onActiveFocusItemChanged: if (!modal && activeFocusItem) focusBeforeModal = activeFocusItem
     onModalChanged: if (!modal) refocus.restart()
