@@ -24,9 +24,11 @@ bench: deps
 	cd build/release/bin && ./calorie-bench --benchmark_enable_random_interleaving=true
 
 # The Debian package, from a Release build of the program alone: build/package/calorie-counter_*.deb.
+# Debian's own checker must find nothing to say, not even a warning.
 package: deps
 	cmake --preset package
 	cmake --build --preset package
+	lintian --fail-on error,warning build/package/calorie-counter_*.deb
 	@ls build/package/calorie-counter_*.deb
 
 # `make fuzz FUZZ_SECONDS=600` fuzzes longer. New inputs go to build/fuzz/fuzz/corpus, crashes to

@@ -112,7 +112,12 @@ void AppDelegate::showLaunchImage() {
     quickWindow_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));
     if (!quickWindow_) endProgram("the window's QML did not load");
     quickWindow_->setTitle("Calorie Counter");
-    quickWindow_->resize(options_.screen);
+    window_.setDesignSize(options_.screen);
+    const auto viewport = [this] { window_.setViewport(quickWindow_->size()); };
+    connect(quickWindow_, &QWindow::widthChanged, this, viewport);
+    connect(quickWindow_, &QWindow::heightChanged, this, viewport);
+    quickWindow_->resize(options_.window.isEmpty() ? options_.screen : options_.window);
+    viewport();
     quickWindow_->show();
     // The launch image is drawn only to be held; without a hold the first screen replaces it.
     if (options_.launchHoldMs > 0) waitForFrame();

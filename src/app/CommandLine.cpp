@@ -7,7 +7,9 @@ namespace {
 constexpr QSize kPhone(320, 568);
 constexpr QSize kPad(768, 1024);
 
-CommandLineResult fail(const QString& message) { return {std::nullopt, 2, message}; }
+CommandLineResult fail(const QString& message) {
+    return {std::nullopt, 2, message};
+}
 }  // namespace
 
 CommandLineResult parseCommandLine(const QStringList& arguments) {
@@ -18,20 +20,26 @@ CommandLineResult parseCommandLine(const QStringList& arguments) {
     const QCommandLineOption version("version", "Show the version and exit.");
     const QCommandLineOption idiom("idiom", "Device idiom: phone (320x568) or pad (768x1024).",
                                    "phone|pad", "phone");
-    const QCommandLineOption screen("screen", "Window size in points, overriding the idiom's.",
-                                    "WxH");
-    const QCommandLineOption dataDir("data-dir",
-                                     "Folder for food.db and the user defaults (created if missing).",
-                                     "DIR");
+    const QCommandLineOption screen(
+        "screen", "The device's screen in points, overriding the idiom's (e.g. 320x480).", "WxH");
+    const QCommandLineOption window(
+        "window",
+        "The window's size at start; the screen is scaled to fit it (default: the screen's).",
+        "WxH");
+    const QCommandLineOption dataDir(
+        "data-dir", "Folder for food.db and the user defaults (created if missing).", "DIR");
     const QCommandLineOption log("log", "Write developer log lines to stderr.");
-    const QCommandLineOption hold("launch-hold-ms", "How long the launch image stays.", "N", "2000");
+    const QCommandLineOption hold("launch-hold-ms", "How long the launch image stays.", "N",
+                                  "2000");
     const QCommandLineOption screenshot(
         "screenshot", "Save the window as PNG once the first screen is shown and idle, then quit.",
         "FILE");
-    const QCommandLineOption report("report-startup",
-                                    "For benchmarks: print the time to the first frame of the first "
-                                    "screen and the resident memory, then quit.");
-    parser.addOptions({help, version, idiom, screen, dataDir, log, hold, screenshot, report});
+    const QCommandLineOption report(
+        "report-startup",
+        "For benchmarks: print the time to the first frame of the first "
+        "screen and the resident memory, then quit.");
+    parser.addOptions(
+        {help, version, idiom, screen, window, dataDir, log, hold, screenshot, report});
 
     if (!parser.parse(arguments)) return fail(parser.errorText());
     if (parser.isSet(help)) return {std::nullopt, 0, parser.helpText()};
@@ -46,11 +54,15 @@ CommandLineResult parseCommandLine(const QStringList& arguments) {
     options.pad = idiomValue == "pad";
     options.screen = options.pad ? kPad : kPhone;
 
-    if (parser.isSet(screen)) {
-        const auto match = QRegularExpression("^(\\d{2,5})x(\\d{2,5})$").match(parser.value(screen));
+    for (const auto& [option, size] :
+         {std::pair{&screen, &options.screen}, {&window, &options.window}}) {
+        if (!parser.isSet(*option)) continue;
+        const QString value = parser.value(*option);
+        const auto match = QRegularExpression("^(\\d{2,5})x(\\d{2,5})$").match(value);
         if (!match.hasMatch())
-            return fail("--screen must look like 320x480, not \"" + parser.value(screen) + "\"");
-        options.screen = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+            return fail("--" + option->names().first() + " must look like 320x480, not \"" + value +
+                        "\"");
+        *size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     }
 
     bool ok = false;

@@ -9,7 +9,8 @@
 
 struct LaunchOptions {
     bool pad = false;
-    QSize screen;  // points; the idiom's size unless given
+    QSize screen;  // the device's screen in points; the idiom's size unless given
+    QSize window;  // the window's size at start; empty: the screen's
     QString dataDir;
     bool log = false;
     int launchHoldMs = 2000;

@@ -57,6 +57,7 @@ public slots:
     void CancelButton();
 
 protected:
+    QString untitledName() const override { return item(); }
     void viewDidLoad() override;
 
 private:

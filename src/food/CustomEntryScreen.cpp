@@ -18,6 +18,7 @@ void CustomEntryScreen::viewDidLoad() {
     setTitle(exercise ? "Calories Burned" : "Calories");
     detailLbl_.setText(exercise ? "Enter Amount of Calories burned" : "Enter Amount of Calories");
     calorieTxt_.setPlaceholder("Calories");
+    calorieTxt_.setKeyboardType(TextField::KeyboardType::NumberPad);
     calorieTxt_.becomeFirstResponder();
     navigationItem()->setRightBarButtonItem(
         redBarButtonItem("Done", 50, this, &CustomEntryScreen::nextButton));

@@ -54,6 +54,7 @@ public slots:
     void CancelButton();
 
 protected:
+    QString untitledName() const override { return QString::fromStdString(item); }
     void viewDidLoad() override;
 
 private:

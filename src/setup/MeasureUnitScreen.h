@@ -17,5 +17,6 @@ public:
     void nextButton() override;
 
 protected:
+    QString untitledName() const override { return QStringLiteral("Units"); }
     void viewDidLoad() override;
 };

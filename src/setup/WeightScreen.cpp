@@ -8,6 +8,7 @@ void WeightScreen::viewDidLoad() {
     field_.becomeFirstResponder();
     const char* unit = AppState::shared().measureUnit == "Metric" ? "Kilograms" : "Pounds";
     field_.setPlaceholder(unit);
+    field_.setKeyboardType(TextField::KeyboardType::DecimalPad);
     wtLbl_.setText(unit);
     addBarButtons(Previous | Next);
     hideNavigationBackButton();

@@ -2,18 +2,12 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QWindow>
 
-QWindow* MainScreen::keyWindow() {
-    if (QWindow* focused = QGuiApplication::focusWindow()) return focused;
-    for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (window->isVisible()) return window;
-    }
-    return nullptr;
-}
+#include "ui/Application.h"
+#include "ui/Window.h"
 
 QSizeF MainScreen::bounds() {
-    if (const QWindow* window = keyWindow()) return window->size();
+    if (ApplicationDelegate* app = Application::delegate()) return app->window()->canvasSize();
     if (const QScreen* screen = QGuiApplication::primaryScreen()) return screen->size();
     return {};
 }

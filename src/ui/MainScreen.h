@@ -1,14 +1,11 @@
 #pragma once
-// The screen as the program sees it. On a phone the window fills the screen; on a desktop the
-// phone- or tablet-sized window stands in for it, so its size is what counts.
+// The screen as the program sees it: the canvas the window draws the layouts on (see
+// Window::canvasSize), as large as the device's screen on a phone and whatever a desktop window
+// makes of it, in points.
 
 #include <QSizeF>
 
-class QWindow;
-
 namespace MainScreen {
-// The window the program draws in: the focused one, else the first one shown; null if none.
-QWindow* keyWindow();
-// The size of the screen in points: the key window's, else the primary screen's.
+// The canvas's size in points; before there is a window, the primary screen's size.
 QSizeF bounds();
 }  // namespace MainScreen

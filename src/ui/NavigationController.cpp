@@ -21,8 +21,8 @@ void NavigationController::pushViewController(ViewController* controller, bool a
     controller->navigationController_ = this;
     // On the stack and rendered (its layout loaded) before viewDidLoad, which may push in turn.
     stack_.append(controller);
-    emit stackChanged();
     emit pushed(controller, animated);
+    emit stackChanged();
     controller->loadViewIfNeeded();
     if (!visible_ || topViewController() != controller) return;
     previous->beginAppearance(false, animated);
@@ -50,8 +50,8 @@ void NavigationController::popTo(qsizetype depth, bool animated) {
     const QList<ViewController*> removed = stack_.mid(depth);
     stack_.resize(depth);
     for (ViewController* controller : removed) controller->navigationController_ = nullptr;
-    emit stackChanged();
     emit popped(int(removed.size()), animated);
+    emit stackChanged();
     if (visible_) {
         leaving->endAppearance(false, animated);
         showing->endAppearance(true, animated);

@@ -54,7 +54,8 @@ public:
 
 signals:
     void stackChanged();
-    // For the renderer: animate the top screen in or out.
+    // For the renderer: animate the top screen in or out. Sent before stackChanged, so that the
+    // renderer can hand the keyboard to the new top screen before the old one stops taking input.
     void pushed(ViewController* controller, bool animated);
     void popped(int count, bool animated);
 

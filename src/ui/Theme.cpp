@@ -2,8 +2,17 @@
 
 #include <QFontDatabase>
 
-QUrl Theme::imageUrl(const QString& name) {
-    return name.isEmpty() ? QUrl() : QUrl(QStringLiteral("qrc:/images/%1.png").arg(name));
+void Theme::setImageScale(qreal scale) {
+    if (scale == imageScale_) return;
+    imageScale_ = scale;
+    emit imageScaleChanged();
+}
+
+QUrl Theme::imageUrl(const QString& name, qreal scale) {
+    if (name.isEmpty()) return {};
+    // A larger rendering drawn smaller stays sharp; a smaller one drawn larger does not.
+    const char* suffix = scale > 2 ? "@3x" : scale > 1 ? "@2x" : "";
+    return QUrl(QStringLiteral("qrc:/images/%1%2.png").arg(name, QLatin1String(suffix)));
 }
 
 QString Theme::familyFor(const QString& fontName) {

@@ -56,6 +56,9 @@ class Theme : public QObject {
     Q_PROPERTY(qreal unit READ unit CONSTANT)
     Q_PROPERTY(qreal columnWidth READ columnWidth CONSTANT)
     Q_PROPERTY(qreal margin READ margin CONSTANT)
+    // Device pixels per point where the window draws: its pixel ratio times the canvas's scale.
+    // Images are taken at the resolution that needs (see imageUrl).
+    Q_PROPERTY(qreal imageScale READ imageScale WRITE setImageScale NOTIFY imageScaleChanged)
 
 public:
     explicit Theme(QObject* parent = nullptr) : QObject(parent) {}
@@ -97,13 +100,21 @@ public:
     // Set once the device idiom is known, before anything is drawn.
     static void setPad(bool pad) { pad_ = pad; }
 
-    // An image of the program by name ("check", "StatusOverlay.bundle/error-color"); none for "".
-    Q_INVOKABLE static QUrl imageUrl(const QString& name);
+    qreal imageScale() const { return imageScale_; }
+    void setImageScale(qreal scale);
+
+    // An image of the program by name ("check", "StatusOverlay.bundle/error-color") in the
+    // rendering for scale (the 2x one above 1, the 3x one above 2); none for "".
+    Q_INVOKABLE static QUrl imageUrl(const QString& name, qreal scale = 1);
     // The face a label or layer asks for by name, when this machine has it; else the program's.
     // "...-Thin" and "...-Bold" names that fall back keep their weight.
     Q_INVOKABLE static QString familyFor(const QString& fontName);
     Q_INVOKABLE static int weightFor(const QString& fontName);
 
+signals:
+    void imageScaleChanged();
+
 private:
     static inline bool pad_ = false;
+    qreal imageScale_ = 1;
 };

@@ -32,12 +32,21 @@ class ViewController : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("screens are made by code")
     KIT_PROPERTY(QString, title, setTitle);
+    // What a screen reader says as the screen comes up: its title, or for a screen without one
+    // what it is about.
+    Q_PROPERTY(QString spokenTitle READ spokenTitle NOTIFY titleChanged)
+    // False for a screen that draws nothing of its own and puts what it shows over the window,
+    // where that takes the keyboard itself.
+    Q_PROPERTY(bool takesKeyboard READ takesKeyboard CONSTANT)
     Q_PROPERTY(NavigationItem* navigationItem READ navigationItem CONSTANT)
     Q_PROPERTY(View* view READ view CONSTANT)
     Q_PROPERTY(TabBarItem* tabBarItem READ tabBarItem CONSTANT)
 
 public:
     explicit ViewController(QObject* parent = nullptr) : QObject(parent) {}
+
+    QString spokenTitle() const { return title().isEmpty() ? untitledName() : title(); }
+    virtual bool takesKeyboard() const { return true; }
 
     NavigationItem* navigationItem() { return &navigationItem_; }
     View* view() { return &view_; }
@@ -55,6 +64,8 @@ public:
     void endAppearance(bool appeared, bool animated);
 
 protected:
+    // Names a screen that shows no title.
+    virtual QString untitledName() const { return {}; }
     virtual void viewDidLoad() {}
     virtual void viewWillAppear(bool /*animated*/) {}
     virtual void viewDidAppear(bool /*animated*/) {}

@@ -5,6 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QList>
 #include <QObject>
+#include <QSizeF>
 
 #include "ui/NavigationController.h"
 #include "ui/ObjectListModel.h"
@@ -25,6 +26,12 @@ class Window : public QObject {
     KIT_PROPERTY(QString, backgroundPatternImage, setBackgroundPatternImage);
     // Drawn over everything, presented modals included: the status overlay (not owned).
     KIT_PROPERTY(QObject*, overlay, setOverlay);
+    // The screen the layouts are made for, in points, drawn into the window as large as its width
+    // and height allow, centred across a wider window; any height the window has beyond that goes
+    // to the screen, as on a taller device. canvasX is the canvas's left edge in the window.
+    Q_PROPERTY(qreal canvasScale READ canvasScale NOTIFY canvasChanged)
+    Q_PROPERTY(QSizeF canvasSize READ canvasSize NOTIFY canvasChanged)
+    Q_PROPERTY(qreal canvasX READ canvasX NOTIFY canvasChanged)
 
 public:
     explicit Window(QObject* parent = nullptr) : QObject(parent) {}
@@ -44,11 +51,26 @@ public:
     void present(QObject* modal);
     void dismiss(QObject* modal);
 
+    // The device screen in points, and the window's size as it changes.
+    void setDesignSize(QSizeF points);
+    void setViewport(QSizeF windowSize);
+    qreal canvasScale() const { return scale_; }
+    QSizeF canvasSize() const { return canvas_; }
+    qreal canvasX() const { return canvasX_; }
+
 signals:
     void rootViewControllerChanged();
+    void canvasChanged();
 
 private:
     NavigationController* root_ = nullptr;
+    void layOutCanvas();
+
     ObjectListModel subviews_;
     ObjectListModel presented_;
+    QSizeF design_{320, 568};
+    QSizeF viewport_{320, 568};
+    qreal scale_ = 1;
+    QSizeF canvas_{320, 568};
+    qreal canvasX_ = 0;
 };

@@ -98,3 +98,37 @@ def key(symbol):
 
 def type_text(text):
     pyatspi.Registry.generateKeyboardEvent(0, text, pyatspi.KEY_STRING)
+
+
+class Speech:
+    """What Orca has said, read from the file its speech server writes; empty without Orca."""
+
+    def __init__(self, path):
+        self.path = path
+        self.heard = 0  # lines already matched: each wait looks only at what came after
+
+    def lines(self):
+        with open(self.path, errors="replace") as said:
+            return said.read().splitlines()
+
+    def expect(self, *words, what=None):
+        """Waits until Orca has said, in one utterance after the last one matched, every word."""
+        if not self.path:
+            return
+        def heard():
+            lines = self.lines()
+            for i in range(self.heard, len(lines)):
+                if all(w in lines[i] for w in words):
+                    self.heard = i + 1
+                    return True
+            return False
+        wait_until(heard, what or "Orca never said %s; it said: %s" % (" ".join(words), self.lines()[self.heard:]))
+
+
+def wider_than_window(app):
+    """The shown nodes that report themselves wider than the window: none is, at any scale."""
+    frame = find(app, of_role(pyatspi.ROLE_FRAME))
+    width = frame.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).width
+    extents = ((n, n.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)) for n in walk(frame)
+               if n is not frame and has_state(n, pyatspi.STATE_SHOWING))
+    return ["%s %r, %d wide" % (n.getRoleName(), n.name, e.width) for n, e in extents if e.width > width]

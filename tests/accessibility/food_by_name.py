@@ -9,7 +9,7 @@ import time
 
 import pyatspi
 
-from atspi_tree import (Failure, absent, act, find_app, has_state, key, press, run, showing, wait_for,
+from atspi_tree import (Failure, absent, act, find, find_app, has_state, key, named, press, run, showing, wait_for,
                         wait_until, walk)
 
 FOOD = "Apple juice, canned or bottled, unsweetened, with added ascorbic acid"
@@ -57,6 +57,13 @@ def main():
         raise Failure("%r is in the tree more than once" % FOOD)
     act(food, "press")
     wait_for(app, showing("Add Food", pyatspi.ROLE_HEADING), "no portion screen")
+    # The Fraction wheel opens on its blank row, which reads as blank, never as a number; the
+    # unit column beside it shows nothing and is not there at all.
+    fraction = wait_for(app, showing("Fraction", pyatspi.ROLE_SPIN_BUTTON), "no Fraction wheel")
+    if fraction.queryText().getText(0, -1) != "none":
+        raise Failure("the Fraction wheel's blank row reads %r" % fraction.queryText().getText(0, -1))
+    if find(app, named("Portions unit")) is not None:
+        raise Failure("the empty unit column is in the tree")
     # The portion wheels, turned by their actions: it opens on one portion (114 Cal, not
     # booked); each turn books the amount it shows, 228 and then 242 (an eighth is 14).
     portions = wait_for(app, showing("Portions", pyatspi.ROLE_SPIN_BUTTON), "no Portions wheel")

@@ -3,15 +3,16 @@
 found by name and role, pressed and turned by their accessible actions and values, weights typed
 on the keyboard. The alert, the chosen unit, the wheels' values, the height label and the stored
 budget are checked on the way, and at the end that nothing of the set-up is left reachable
-beneath the tab interface.
-Usage: setup_without_pointer.py APP_NAME DATA_DIR"""
+beneath the tab interface. With Orca running, each screen must be announced by its title as it
+comes up.
+Usage: setup_without_pointer.py APP_NAME DATA_DIR [SPEECH_FILE]"""
 import datetime
 import sqlite3
 import sys
 
 import pyatspi
 
-from atspi_tree import (Failure, act, find, find_app, has_state, named, of_role, press, run,
+from atspi_tree import (Failure, Speech, act, find, find_app, has_state, named, of_role, press, run,
                         type_text, wait_for, wait_until, walk)
 
 SPIN = pyatspi.ROLE_SPIN_BUTTON
@@ -49,6 +50,8 @@ def turn(wheel, action, times):
 def main():
     app = find_app(sys.argv[1])
     data_dir = sys.argv[2]
+    speech = Speech(sys.argv[3] if len(sys.argv) > 3 else "")
+    speech.expect("Units")
 
     # Step 1: going on without a choice raises an alert, found by its role, over nothing else.
     press(app, "Next")
@@ -61,16 +64,20 @@ def main():
     choose(app, "Imperial", "Metric")
     choose(app, "Metric", "Imperial")
     press(app, "Next")
+    speech.expect("Starting Weight")
 
     # Steps 2 and 3: the weights, typed.
     type_weight(app, "80")
     press(app, "Next")
+    speech.expect("Goal Weight")
     type_weight(app, "70")
     press(app, "Next")
+    speech.expect("Gender")
 
     # Step 4.
     choose(app, "Male", "Female")
     press(app, "Next")
+    speech.expect("Height")
 
     # Step 5: the height wheel, turned from 40 to 175 cm one increase at a time.
     height = wait_for(app, named("Height", SPIN), "no Height wheel")
@@ -83,6 +90,7 @@ def main():
     wait_for(app, named("175 cm", pyatspi.ROLE_LABEL), "the height label does not read 175 cm")
     expect(height.queryValue().currentValue == 175, "the Height wheel does not read 175")
     press(app, "Next")
+    speech.expect("Birthday")
 
     # Step 6: the birthday on the date wheels: the year set as a value, month and day turned.
     year = wait_for(app, named("Year", SPIN), "no Year wheel")
@@ -96,6 +104,7 @@ def main():
     expect(month.description != "", "the Month wheel gives no month name")
     turn(day, "increase", 1)
     press(app, "Start my plan")
+    speech.expect("Today")
 
     # The tab interface, and nothing of the set-up beneath it.
     wait_for(app, named("Today", pyatspi.ROLE_PAGE_TAB), "no tab interface")

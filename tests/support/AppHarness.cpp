@@ -14,10 +14,12 @@
 
 namespace {
 
-// Depth-first over the accessibility tree, the way assistive technology sees the window.
+// Depth-first over the accessibility tree, the way assistive technology sees the window. The
+// screens themselves are named too (by their titles); what is looked for is what is on them.
 QQuickItem* findAccessible(QAccessibleInterface* node, const QString& name, int& skip) {
     if (!node) return nullptr;
-    if (node->text(QAccessible::Name) == name && !node->state().invisible) {
+    if (node->text(QAccessible::Name) == name && !node->state().invisible &&
+        node->role() != QAccessible::Pane) {
         if (auto* item = qobject_cast<QQuickItem*>(node->object()); item && item->isVisible()) {
             if (skip-- == 0) return item;
         }
@@ -63,6 +65,7 @@ void AppHarness::launch() {
     launch.pad = options_.pad;
     launch.screen = options_.screen.isEmpty() ? (options_.pad ? QSize(768, 1024) : QSize(320, 568))
                                               : options_.screen;
+    launch.window = options_.window;
     launch.dataDir = dataDir();
     launch.launchHoldMs = options_.launchHoldMs;
     delegate_ = std::make_unique<AppDelegate>(launch);
@@ -131,10 +134,11 @@ QQuickItem* AppHarness::focused() {
 }
 
 bool AppHarness::tabTo(const QString& name) {
+    // A control, not the screen around it, which bears the screen's title.
     const auto named = [&] {
         QAccessibleInterface* node =
             focused() ? QAccessible::queryAccessibleInterface(focused()) : nullptr;
-        return node && node->text(QAccessible::Name) == name;
+        return node && node->text(QAccessible::Name) == name && node->role() != QAccessible::Pane;
     };
     // Once round everything a screen shows, and a little more.
     for (int presses = 0; presses < 40 && !named(); ++presses)

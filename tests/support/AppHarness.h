@@ -18,6 +18,7 @@ struct HarnessOptions {
     bool pad = false;
     std::optional<QString> firstTime;  // the defaults' "firstTime" before launch; absent if empty
     QSize screen;                      // empty: the idiom's size
+    QSize window;                      // empty: the screen's size
     int launchHoldMs = 0;
 };
 

@@ -13,6 +13,7 @@ class TabBar : public ViewController {
 
 public:
     using ViewController::ViewController;
+    bool takesKeyboard() const override { return false; }
 
     QList<NavigationController*> tabArray;
     ViewController* todayObj = nullptr;

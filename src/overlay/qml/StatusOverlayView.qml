@@ -67,7 +67,7 @@ Item {
             y: (root.model?.iconCentre.y ?? 0) - height / 2
             width: 28; height: 28
             visible: !!root.model && root.model.imageName !== ""
-            source: visible ? Theme.imageUrl(root.model.imageName) : ""
+            source: visible ? Theme.imageUrl(root.model.imageName, Theme.imageScale) : ""
             Accessible.role: Accessible.Graphic
             Accessible.name: visible && root.model.imageName.endsWith("success-color") ? "Success" : "Error"
             Accessible.ignored: !visible || !enabled

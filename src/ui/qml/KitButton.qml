@@ -25,7 +25,7 @@ Item {
     Image {
         id: image
         anchors.centerIn: parent
-        source: Theme.imageUrl(root.model?.imageName ?? "")
+        source: Theme.imageUrl(root.model?.imageName ?? "", Theme.imageScale)
         opacity: area.pressed && (root.model?.adjustsImageWhenHighlighted ?? false) ? 0.5 : 1
     }
     Text {

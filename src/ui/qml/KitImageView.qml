@@ -5,7 +5,7 @@ Image {
     id: root
     property ImageView model: ImageView {}
     visible: !model.hidden
-    source: Theme.imageUrl(model.imageName)
+    source: Theme.imageUrl(model.imageName, Theme.imageScale)
     fillMode: Image.PreserveAspectFit
     FrameBinding { item: root; model: root.model }
 }

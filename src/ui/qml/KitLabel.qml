@@ -7,6 +7,9 @@ import CalorieCounter.Kit
 Text {
     id: root
     property Label model: Label {}
+    // Where a container cuts the label off: left-aligned, it is drawn only that wide, which looks
+    // the same and gives assistive technology its extent on screen.
+    property real visibleRight: Infinity
 
     visible: !(model?.hidden ?? true)
     text: model?.text ?? ""
@@ -31,5 +34,9 @@ Text {
     Accessible.name: text
     Accessible.ignored: !visible || !enabled || !text  // covered, or nothing to read
 
-    FrameBinding { item: root; model: root.model }
+    FrameBinding {
+        item: root
+        model: root.model
+        maxRight: root.horizontalAlignment === Text.AlignLeft ? root.visibleRight : Infinity
+    }
 }

@@ -75,7 +75,9 @@ Item {
         anchors.fill: parent
         anchors.topMargin: bar.visible ? bar.height : 0
         clip: true
-        Accessible.ignored: !visible || !enabled
+        // Only a container: a screen reader would name it ("layered pane") on the way to each
+        // screen of another stack.
+        Accessible.ignored: true
     }
 
     Component {
@@ -88,11 +90,17 @@ Item {
 
     Connections {
         target: root.nav
+        // Both come before the screens' enabled states follow the stack. The stack hands the
+        // keyboard it holds to the screen it pushes, straight from the old top screen; on a pop,
+        // and for a screen that takes no keyboard, no item has it until the new top screen takes
+        // it: never the stack itself, which a screen reader would announce.
         function onPushed(controller, animated) {
+            if (!controller.takesKeyboard) root.releaseFocus()
             stack.push(host, root.page(controller), animated ? T.StackView.PushTransition : T.StackView.Immediate)
             root.focusTopLater()
         }
         function onPopped(count, animated) {
+            root.releaseFocus()
             stack.pop(stack.get(stack.depth - 1 - count), animated ? T.StackView.PopTransition : T.StackView.Immediate)
             root.focusTopLater()
         }
@@ -101,8 +109,14 @@ Item {
     // The top screen's field that wants the keyboard has it, or else the screen itself, so that
     // Tab starts on its first control. Not while something covers this view.
     function focusTop() {
-        if (visible && enabled && stack.currentItem) stack.currentItem.forceActiveFocus()
+        const page = stack.currentItem as KitScreenPage
+        if (visible && enabled && page && page.screen.takesKeyboard) page.forceActiveFocus()
     }
+    function releaseFocus() {
+        if (stack.activeFocus) keyboardRest.forceActiveFocus()
+    }
+    // Where the keyboard rests meanwhile: nothing a screen reader knows of.
+    Item { id: keyboardRest }
     // Once the stack and what covers it have settled.
     function focusTopLater() { focusLater.restart() }
     Timer { id: focusLater; interval: 0; onTriggered: root.focusTop() }

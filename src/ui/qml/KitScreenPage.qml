@@ -12,6 +12,10 @@ FocusScope {
     property Item drawing: null
 
     enabled: screen === nav.topViewController
+    // Focus coming to the screen, or to a field in it, tells a screen reader which screen it is.
+    Accessible.role: Accessible.Pane
+    Accessible.name: screen.spokenTitle
+    Accessible.ignored: !visible || !enabled
     Component.onCompleted: drawing = screenDelegate.createObject(page, { screen: page.screen }) as Item
     // The drawing goes before the screen it reads from.
     T.StackView.onRemoved: {

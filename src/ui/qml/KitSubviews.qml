@@ -15,6 +15,8 @@ import CalorieCounter.Kit
 Item {
     id: root
     property View view
+    // Where a container cuts this view off, in its coordinates.
+    property real visibleRight: Infinity
 
     property int flattenAbove: 24  // live items
     readonly property int keepLive: 6
@@ -45,7 +47,7 @@ Item {
             role: "kind"
             DelegateChoice {
                 roleValue: "Label"
-                KitLabel { required property Label modelData; model: modelData }
+                KitLabel { required property Label modelData; model: modelData; visibleRight: root.visibleRight }
             }
             DelegateChoice {
                 roleValue: "ShapeLayer"

@@ -12,36 +12,16 @@ Rectangle {
     property Component screenDelegate
     color: Theme.clear
 
-    // A tab's screens are drawn from its first visit on, not all at start-up.
-    component TabPage: Item {
-        id: page
-        required property NavigationController modelData
-        required property int index
-        readonly property bool selected: index === root.controller.selectedIndex
-        anchors.fill: parent
-        visible: selected
-        property bool visited: false
-        readonly property KitNavigationView stack: stacks.count > 0 ? stacks.itemAt(0) as KitNavigationView : null
-        onSelectedChanged: if (selected) visited = true
-        Component.onCompleted: visited = selected
-        Repeater {
-            id: stacks
-            model: page.visited ? 1 : 0
-            KitNavigationView {
-                width: page.width
-                height: page.height
-                nav: page.modelData
-                screenDelegate: root.screenDelegate
-            }
-        }
-    }
-
     Item {
         anchors { top: parent.top; left: parent.left; right: parent.right; bottom: bar.top }
         Repeater {
             id: tabs
             model: root.controller.viewControllers
-            TabPage {}
+            KitTabPage {
+                id: page
+                selected: page.index === root.controller.selectedIndex
+                screenDelegate: root.screenDelegate
+            }
         }
     }
 
@@ -70,9 +50,10 @@ Rectangle {
                         anchors.horizontalCenter: parent.horizontalCenter
                         y: 4
                         width: 26; height: 26
-                        sourceSize.width: 26
-                        sourceSize.height: 26
-                        source: Theme.imageUrl(tab.modelData.tabBarItem.imageName)
+                        // Logical pixels: the window multiplies them by its own pixel ratio.
+                        sourceSize.width: 26 * Theme.imageScale / Screen.devicePixelRatio
+                        sourceSize.height: 26 * Theme.imageScale / Screen.devicePixelRatio
+                        source: Theme.imageUrl(tab.modelData.tabBarItem.imageName, Theme.imageScale)
                         color: tab.tint
                     }
                     Text {
@@ -104,13 +85,18 @@ Rectangle {
         }
     }
 
-    // Once shown, the keyboard starts on the selected tab's top screen.
-    Component.onCompleted: firstFocus.start()
+    // Once shown, and whenever a tab is chosen, the keyboard starts on the selected tab's top
+    // screen, which a screen reader then names.
+    Component.onCompleted: focusSelected.start()
+    Connections {
+        target: root.controller
+        function onSelectedIndexChanged() { focusSelected.restart() }
+    }
     Timer {
-        id: firstFocus
+        id: focusSelected
         interval: 0
         onTriggered: {
-            const selected = tabs.itemAt(root.controller.selectedIndex) as TabPage
+            const selected = tabs.itemAt(root.controller.selectedIndex) as KitTabPage
             if (selected && selected.stack) selected.stack.focusTop()
         }
     }

@@ -10,5 +10,5 @@ Item {
     width: ListView.view.width
     height: view ? Theme.sectionHeaderHeight : 0
     clip: true
-    KitSubviews { view: header.view }
+    KitSubviews { view: header.view; visibleRight: header.width }
 }

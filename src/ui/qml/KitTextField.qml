@@ -10,6 +10,7 @@ Controls.TextField {
     visible: !model.hidden
     text: model.text
     placeholderText: model.placeholder
+    inputMethodHints: model.inputMethodHints
     font.family: Theme.fontFamily
     font.pixelSize: 17
     onTextEdited: model.text = text

@@ -18,7 +18,6 @@ Card {
         model: entry.field
         font.pixelSize: 24 * Theme.unit
         horizontalAlignment: TextInput.AlignRight
-        inputMethodHints: Qt.ImhFormattedNumbersOnly
     }
     KitLabel {
         id: unitText
