@@ -7,15 +7,20 @@
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QStandardPaths>
+#include <QFileInfo>
 #include <QThread>
 #include <QTimer>
 
+#include "app/EndMessage.h"
 #include "app/tabs/TabBar.h"
 #include "overlay/StatusOverlay.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
 #include "store/DevLog.h"
+#include "store/DeadEnd.h"
+#include "store/PlanBackup.h"
 #include "store/ProgramEnd.h"
+#include "store/YourData.h"
 #include "ui/Theme.h"
 
 // The program's QML modules, linked in statically.
@@ -57,6 +62,13 @@ AppDelegate::AppDelegate(const LaunchOptions& options, QObject* parent)
             });
     connect(qGuiApp, &QCoreApplication::aboutToQuit, this, [this] { applicationWillTerminate(); });
     store_.setBeforeDailyUpdate([] { StatusOverlay::show(); });
+    // A booking the file did not take is said to be lost, once the screens have moved on (Today
+    // clears the overlay as it appears); the figures are read back from the file after every
+    // booking, so they stay what it holds.
+    store_.setWriteFailureHandler([](WriteFailure failure) {
+        const QString text = QString("Not saved: %1").arg(writeFailureText(failure));
+        QTimer::singleShot(0, qApp, [text] { StatusOverlay::showError(text); });
+    });
     window_.setOverlay(&StatusOverlay::shared());
 }
 
@@ -76,6 +88,7 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
     state.databaseName = "food.db";
     state.databasePath = QDir(dataFolder_).filePath("food.db").toStdString();
     DEVLOG("%s", state.databasePath.c_str());
+    const bool hadPlanFile = QFileInfo::exists(dataFolder_ + "/food.db");
     store_.checkAndCreateDatabase(shippedFolder().toStdString());
 
     defaults_ = std::make_unique<SettingsDefaults>(options_.dataDir);
@@ -89,10 +102,11 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
 
     state.isPad = options_.pad;
 
-    const bool setUp = defaults_->stringForKey("firstTime") == "no";
+    const bool setUp = defaults_->stringForKey("firstTime") == "no" && planOpens(!hadPlanFile);
     ViewController* first = nullptr;
     if (setUp) {
         first = new TabBar;
+        backUpOnceShown();
     } else {
         DEVLOG("firstTime");
         first = new MeasureUnitScreen;
@@ -102,6 +116,37 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
 
     quickWindow_->setProperty("launching", false);
     return true;
+}
+
+bool AppDelegate::planOpens(bool fileWasMissing) {
+    const YourData data(*defaults_, dataFolder_.toStdString());
+    while (const std::optional<DeadEnd> end = findDeadEnd(data, Clock::now(), fileWasMissing)) {
+        fileWasMissing = false;  // a way out has put a file in place
+        if (!offerWaysOut(*end, data)) {
+            setProgramEndPresenter({});  // the person has read it in the window already
+            endProgram(end->forTerminal());
+        }
+        quickWindow_->show();
+        // A new plan starts with the set-up, on a fresh copy of the catalogue.
+        if (defaults_->stringForKey("firstTime") != "no") {
+            store_.checkAndCreateDatabase(shippedFolder().toStdString());
+            return false;
+        }
+    }
+    return true;
+}
+
+void AppDelegate::backUpOnceShown() {
+    auto once = std::make_shared<QMetaObject::Connection>();
+    *once = connect(quickWindow_, &QQuickWindow::frameSwapped, this, [this, once] {
+        disconnect(*once);
+        backup_ = std::jthread([folder = dataFolder_.toStdString(),
+                                database = AppState::shared().databasePath,
+                                firstTime = defaults_->stringForKey("firstTime").value_or("")] {
+            const BackupResult done = backupDaily(folder, database, firstTime, Clock::now());
+            if (!done.ok()) DEVLOG("automatic backup: %s", done.error.c_str());
+        });
+    });
 }
 
 void AppDelegate::showLaunchImage() {

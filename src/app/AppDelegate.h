@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QQmlApplicationEngine>
 #include <memory>
+#include <thread>
 
 #include "app/CommandLine.h"
 #include "app/SettingsDefaults.h"
@@ -43,6 +44,11 @@ public:
 private:
     void showLaunchImage();
     void waitForFrame();
+    // Whether the plan opens; where it cannot, the start ends with its cause unless the person
+    // takes a way out that lets it go on.
+    bool planOpens(bool fileWasMissing);
+    // The day's automatic backup, once the first screen is up, on a thread of its own.
+    void backUpOnceShown();
 
     LaunchOptions options_;
     QString dataFolder_;
@@ -51,4 +57,5 @@ private:
     std::unique_ptr<SettingsDefaults> defaults_;
     QQmlApplicationEngine engine_;
     QQuickWindow* quickWindow_ = nullptr;
+    std::jthread backup_;  // joined as the program ends: a backup is never cut off halfway
 };

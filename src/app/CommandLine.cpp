@@ -38,8 +38,21 @@ CommandLineResult parseCommandLine(const QStringList& arguments) {
         "report-startup",
         "For benchmarks: print the time to the first frame of the first "
         "screen and the resident memory, then quit.");
-    parser.addOptions(
-        {help, version, idiom, screen, window, dataDir, log, hold, screenshot, report});
+    const QCommandLineOption exportCsv("export-csv",
+                                       "Write the plan's days to a CSV file and exit.", "FILE");
+    const QCommandLineOption backup("backup", "Copy the plan to a backup file and exit.", "FILE");
+    const QCommandLineOption restore(
+        "restore",
+        "Put a backup back in place of the plan and exit; \"latest\" is the newest automatic "
+        "backup. The replaced plan is kept in backups/.",
+        "FILE");
+    const QCommandLineOption newPlan(
+        "new-plan", "Set the plan aside in backups/ and exit; the next start runs the set-up.");
+    const QCommandLineOption finishPlan(
+        "finish-plan",
+        "Store the plan's days from the profile a set-up stopped halfway has stored, and exit.");
+    parser.addOptions({help, version, idiom, screen, window, dataDir, log, hold, screenshot, report,
+                       exportCsv, backup, restore, newPlan, finishPlan});
 
     if (!parser.parse(arguments)) return fail(parser.errorText());
     if (parser.isSet(help)) return {std::nullopt, 0, parser.helpText()};
@@ -78,6 +91,29 @@ CommandLineResult parseCommandLine(const QStringList& arguments) {
         options.screenshot = parser.value(screenshot);
         if (options.screenshot.isEmpty()) return fail("--screenshot needs a file name");
     }
+
+    using Kind = DataCommand::Kind;
+    int commands = 0;
+    for (const auto& [option, kind] :
+         {std::pair{&newPlan, Kind::newPlan}, {&finishPlan, Kind::finishPlan}}) {
+        if (!parser.isSet(*option)) continue;
+        options.dataCommand = DataCommand{kind, {}};
+        ++commands;
+    }
+    for (const auto& [option, kind] : {std::pair{&exportCsv, Kind::exportCsv},
+                                       {&backup, Kind::backup},
+                                       {&restore, Kind::restore}}) {
+        // Each value counts: --backup a --backup b is two commands as much as --backup --restore.
+        for (const QString& file : parser.values(*option)) {
+            if (file.isEmpty()) return fail("--" + option->names().first() + " needs a file name");
+            options.dataCommand = DataCommand{kind, file};
+            ++commands;
+        }
+    }
+    if (commands > 1)
+        return fail(
+            "Give at most one of --export-csv, --backup, --restore, --new-plan and --finish-plan");
+
     options.log = parser.isSet(log);
     options.reportStartup = parser.isSet(report);
     return {options, 0, {}};

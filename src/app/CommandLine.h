@@ -7,6 +7,13 @@
 #include <QStringList>
 #include <optional>
 
+// Work on the plan's data instead of a start: at most one per run.
+struct DataCommand {
+    enum class Kind { exportCsv, backup, restore, newPlan, finishPlan };
+    Kind kind = Kind::exportCsv;
+    QString file;  // empty for newPlan and finishPlan; for restore, "latest" is the newest automatic backup
+};
+
 struct LaunchOptions {
     bool pad = false;
     QSize screen;  // the device's screen in points; the idiom's size unless given
@@ -16,6 +23,7 @@ struct LaunchOptions {
     int launchHoldMs = 2000;
     QString screenshot;
     bool reportStartup = false;
+    std::optional<DataCommand> dataCommand;
 };
 
 struct CommandLineResult {

@@ -1,72 +1,44 @@
 #include "app/EndMessage.h"
 
 #include <QEventLoop>
+#include <QFile>
 #include <QGuiApplication>
-#include <QQmlComponent>
-#include <QQmlEngine>
+#include <QQmlApplicationEngine>
 #include <QQuickWindow>
-#include <memory>
 
+#include "app/tabs/YourDataSection.h"
 #include "store/ProgramEnd.h"
+#include "store/YourData.h"
 
 namespace {
 
-// Plain QML, no kit: the program may be ending because a screen could not be built.
-constexpr char kWindowQml[] = R"(
-import QtQuick
-import QtQuick.Controls.Basic
-
-Window {
-    id: window
-    property string message
-    title: "Calorie Counter"
-    flags: Qt.Dialog
-    modality: Qt.ApplicationModal
-    width: 380
-    height: column.implicitHeight + 40
-    color: "#F2F2F2"
-
-    Shortcut { sequence: StandardKey.Cancel; onActivated: window.close() }
-
-    Column {
-        id: column
-        x: 20; y: 20
-        width: parent.width - 40
-        spacing: 14
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: heading.text
-
-        Text {
-            id: heading
-            width: parent.width
-            text: "Calorie Counter cannot go on"
-            font.pixelSize: 17; font.bold: true
-            wrapMode: Text.Wrap
-            Accessible.role: Accessible.StaticText; Accessible.name: text
-        }
-        Text {
-            id: body
-            width: parent.width
-            text: window.message
-            textFormat: Text.PlainText
-            font.pixelSize: 14
-            wrapMode: Text.WrapAnywhere
-            Accessible.role: Accessible.StaticText; Accessible.name: text
-        }
-        Button {
-            anchors.right: parent.right
-            text: "Quit"
-            focus: true
-            onClicked: window.close()
-            Accessible.role: Accessible.Button
-            Accessible.name: text
-            Accessible.onPressAction: window.close()
-            Keys.onReturnPressed: window.close()
-            Keys.onEnterPressed: window.close()
-        }
-    }
+QString sentence(QString text) {
+    if (text.isEmpty()) return text;
+    text[0] = text[0].toUpper();
+    if (!text.endsWith('.')) text += '.';
+    return text;
 }
-)";
+
+// Runs the window until the person closes it or a way out lets the program go on.
+bool runWindow(EndMessage& model) {
+    for (QWindow* other : QGuiApplication::topLevelWindows()) other->hide();
+    QQmlApplicationEngine engine;
+    engine.setInitialProperties({{"model", QVariant::fromValue(&model)}});
+    engine.loadData("import CalorieCounter.App\nEndMessageWindow {}");
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
+    if (!window) return false;  // stderr has the message already
+
+    QEventLoop loop;
+    QObject::connect(window, &QWindow::visibleChanged, &loop, [&](bool visible) {
+        if (!visible) loop.quit();
+    });
+    QObject::connect(&model, &EndMessage::finished, &loop, &QEventLoop::quit);
+    window->show();
+    window->requestActivate();
+    loop.exec();
+    window->hide();
+    return model.goOn();
+}
 
 }  // namespace
 
@@ -76,24 +48,55 @@ bool hasDisplay() {
     return platform != "offscreen" && platform != "minimal";
 }
 
+EndMessage::EndMessage(const QString& cause, const DeadEnd& end, const YourData* data, QObject* parent)
+    : QObject(parent), message_(sentence(cause)), end_(end), data_(data) {}
+
+QUrl EndMessage::suggestedCsv() const {
+    return inDocuments(YourData::suggestedCsvName(Clock::now()));
+}
+
+void EndMessage::report(bool ok, const std::string& text, bool goOn) {
+    outcome_ = QString::fromStdString(text);
+    emit outcomeChanged();
+    if (ok && goOn) {
+        goOn_ = true;
+        emit finished();
+    }
+}
+
+void EndMessage::exportTo(const QUrl& file) {
+    if (!canExport()) return;
+    const DataOutcome done = data_->exportCsv(QFile::encodeName(file.toLocalFile()).toStdString());
+    report(done.ok, done.text, false);
+}
+
+void EndMessage::restoreLatest() {
+    if (!canRestore()) return;
+    const DataOutcome done = data_->restoreLatest(Clock::now());
+    report(done.ok, done.text, true);
+}
+
+void EndMessage::finishPlan() {
+    if (!canFinish()) return;
+    const DataOutcome done = data_->finishPlan(Clock::now());
+    report(done.ok, done.text, true);
+}
+
+void EndMessage::startNewPlan() {
+    if (!canStartNew()) return;
+    const DataOutcome done = data_->startNewPlan(Clock::now());
+    report(done.ok, done.text, true);
+}
+
 void showEndMessageWindow(const QString& message) {
-    for (QWindow* other : QGuiApplication::topLevelWindows()) other->hide();
+    EndMessage model(message, DeadEnd{}, nullptr);
+    runWindow(model);
+}
 
-    QQmlEngine engine;
-    QQmlComponent component(&engine);
-    component.setData(kWindowQml, QUrl("qrc:/app/EndMessage.qml"));
-    std::unique_ptr<QObject> object(component.createWithInitialProperties(
-        {{"message", message.isEmpty() ? message : message.front().toUpper() + message.mid(1)}}));
-    auto* window = qobject_cast<QQuickWindow*>(object.get());
-    if (!window) return;  // stderr has the message already
-
-    QEventLoop loop;
-    QObject::connect(window, &QWindow::visibleChanged, &loop, [&](bool visible) {
-        if (!visible) loop.quit();
-    });
-    window->show();
-    window->requestActivate();
-    loop.exec();
+bool offerWaysOut(const DeadEnd& end, const YourData& data) {
+    if (!hasDisplay()) return false;
+    EndMessage model(QString::fromStdString(end.cause), end, &data);
+    return runWindow(model);
 }
 
 void installEndMessageWindow() {

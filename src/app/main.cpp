@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "app/AppDelegate.h"
+#include "app/DataCommands.h"
 #include "app/DataFolderLock.h"
 #include "app/EndMessage.h"
 #include "app/StartupReport.h"
@@ -49,12 +50,14 @@ int main(int argc, char** argv) {
     QGuiApplication::setOrganizationName("calorie-counter");
     // Lets the desktop match the window to its desktop entry, and so show its name and icon.
     QGuiApplication::setDesktopFileName(CC_APP_ID);
-    // --help and --version answer without a display (over ssh, for help2man): the GUI
-    // platform, which ends the process when there is none, is needed only to start.
+    // --help, --version and the data commands answer without a display (over ssh, for
+    // help2man): the GUI platform, which ends the process when there is none, is needed only
+    // to start.
     QStringList arguments;
     for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
     const CommandLineResult early = parseCommandLine(arguments);
-    const bool answerOnly = !early.options && early.exitCode == 0;
+    const bool answerOnly =
+        early.options ? early.options->dataCommand.has_value() : early.exitCode == 0;
     const std::unique_ptr<QCoreApplication> app = makeApplication(argc, argv, answerOnly);
     QQuickStyle::setStyle("Basic");
     chooseRenderer();
@@ -67,6 +70,7 @@ int main(int argc, char** argv) {
     }
     const LaunchOptions& options = *parsed.options;
     devlog::setEnabled(options.log);
+    if (options.dataCommand) return runDataCommand(options);
     installEndMessageWindow();
 
     // Before anything is read or written: a second program on the folder leaves it untouched.

@@ -8,12 +8,9 @@
 #include "store/CalorieStore.h"
 #include "store/DevLog.h"
 #include "store/Formatted.h"
+#include "store/PlanFinish.h"
 #include "store/UserDefaults.h"
 #include "ui/Application.h"
-
-namespace {
-constexpr int32_t kPlanDays = 366;
-}  // namespace
 
 BirthdayScreen::BirthdayScreen(QObject* parent) : WizardScreen(parent) {
     setTitle("Birthday");

@@ -4,14 +4,12 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <cstdio>
-
 #include <array>
 #include <system_error>
 
 #include "store/AppState.h"
 #include "store/DevLog.h"
+#include "store/FileCommit.h"
 #include "store/Formatted.h"
 
 namespace {
@@ -24,8 +22,8 @@ constexpr int kBusyTimeoutMs = 5000;
 // since SQLite can be built without it.
 class Connection {
 public:
-    explicit Connection(const std::string& path) : ok_(sqlite3_open(path.c_str(), &db_) == 0) {
-        if (!ok_) return;
+    explicit Connection(const std::string& path) : result_(sqlite3_open(path.c_str(), &db_)) {
+        if (!ok()) return;
         sqlite3_db_config(db_, SQLITE_DBCONFIG_DQS_DML, 1, nullptr);
         // A lock held by another connection (a backup tool, a second reader) is waited out
         // rather than dropping the write.
@@ -35,27 +33,30 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    bool ok() const { return ok_; }
+    bool ok() const { return result_ == SQLITE_OK; }
+    int result() const { return result_; }
     sqlite3* get() const { return db_; }
 
 private:
     sqlite3* db_ = nullptr;
-    bool ok_;
+    int result_;
 };
 
 // Prepares sql, logging the error message when that fails; the statement is finalized on scope
 // exit either way.
 class Statement {
 public:
-    Statement(const Connection& db, const char* sql) {
-        if (sqlite3_prepare_v2(db.get(), sql, -1, &stmt_, nullptr) != SQLITE_OK)
-            DEVLOG("%s", sqlite3_errmsg(db.get()));
+    Statement(const Connection& db, const char* sql)
+        : result_(sqlite3_prepare_v2(db.get(), sql, -1, &stmt_, nullptr)) {
+        if (result_ != SQLITE_OK) DEVLOG("%s", sqlite3_errmsg(db.get()));
     }
     ~Statement() { sqlite3_finalize(stmt_); }
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
     bool ok() const { return stmt_ != nullptr; }
+    // The prepare's result while ok() is false.
+    int result() const { return result_; }
     int step() { return sqlite3_step(stmt_); }
     std::string text(int column) const {
         const auto* bytes = sqlite3_column_text(stmt_, column);
@@ -64,6 +65,7 @@ public:
 
 private:
     sqlite3_stmt* stmt_ = nullptr;
+    int result_;
 };
 
 // Copies from to to (replacing a leftover), writable by its owner, and flushed to disk.
@@ -80,26 +82,6 @@ bool copyWhole(const std::filesystem::path& from, const std::filesystem::path& t
     const bool synced = ::fsync(fd) == 0;
     ::close(fd);
     return synced && !error;
-}
-
-// Never replaces a file that is already there, even one that appeared since it was looked for.
-bool renameNoReplace(const std::filesystem::path& from, const std::filesystem::path& to) {
-    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
-        return true;
-    // File systems without the flag: a hard link fails just as well when the name is taken.
-    if (errno != EINVAL && errno != ENOSYS) return false;
-    if (::link(from.c_str(), to.c_str()) != 0) return false;
-    ::unlink(from.c_str());
-    return true;
-}
-
-// Makes a rename in folder last through a power cut.
-void syncFolder(const std::filesystem::path& folder) {
-    const int fd =
-        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0) return;
-    ::fsync(fd);
-    ::close(fd);
 }
 
 }  // namespace
@@ -148,10 +130,20 @@ void CalorieStore::UpdateDatabase1(const std::string& key, const std::string& va
 
 void CalorieStore::write(const std::string& sql, const char* doneText) {
     const Connection db(state_.databasePath);
-    if (!db.ok()) return;
+    // Told while the connection is open: it keeps the system error behind a failure.
+    const auto failed = [&](int result) {
+        if (writeFailed_) writeFailed_(writeFailureFor(result, sqlite3_system_errno(db.get())));
+    };
+    if (!db.ok()) return failed(db.result());
     state_.lastSql = sql;
     Statement statement(db, sql.c_str());
-    if (statement.ok() && statement.step() == SQLITE_DONE) DEVLOG("%s", doneText);
+    if (!statement.ok()) return failed(statement.result());
+    const int result = statement.step();
+    if (result == SQLITE_DONE) {
+        DEVLOG("%s", doneText);
+    } else {
+        failed(result);
+    }
 }
 
 void CalorieStore::read(const char* sql, const std::function<void(const std::string*)>& onRow,

@@ -2,12 +2,15 @@
 // The calorie store: puts food.db in place, reads its three tables into AppState and writes
 // single values back. Every operation opens the file, runs one statement and closes it again;
 // with one row written per user action there is nothing to gain from a kept connection.
-// No operation reports failure: failures go to the developer log only.
+// Reads report no failure: failures go to the developer log only. A write that does not reach
+// the file is also told to the write-failure handler, so that the person learns it was not saved.
 
 #include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
+
+#include "store/WriteFailure.h"
 
 struct AppState;
 
@@ -17,6 +20,11 @@ public:
 
     // Called first by every daily update; the app shows the status overlay here.
     void setBeforeDailyUpdate(std::function<void()> hook) { beforeDailyUpdate_ = std::move(hook); }
+    // Called on the writing thread when opening, preparing or running a write fails (after the
+    // lock wait). An update that matches no row is no failure.
+    void setWriteFailureHandler(std::function<void(WriteFailure)> handler) {
+        writeFailed_ = std::move(handler);
+    }
 
     // Copies shippedFolder/databaseName to databasePath unless a file is already there.
     void checkAndCreateDatabase(const std::filesystem::path& shippedFolder);
@@ -36,4 +44,5 @@ private:
 
     AppState& state_;
     std::function<void()> beforeDailyUpdate_;
+    std::function<void(WriteFailure)> writeFailed_;
 };

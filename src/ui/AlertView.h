@@ -23,6 +23,8 @@ public:
     QString message() const { return message_; }
     // The cancel button first, as the platform numbers an alert's buttons.
     QStringList buttonTitles() const { return buttons_; }
+    // Adds a button after the cancel button; returns its index.
+    int addButtonWithTitle(const QString& title);
 
     // Shows the alert in the application's window; it deletes itself once dismissed.
     void show();

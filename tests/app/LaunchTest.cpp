@@ -4,7 +4,6 @@
 #include <QQuickItem>
 
 #include "app/SplashScreen.h"
-#include "app/tabs/MoreScreen.h"
 #include "app/tabs/TabBar.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
@@ -100,21 +99,6 @@ TEST(TabInterface, FiveTabsWithTitlesImagesAndIdiomLayouts) {
     }
 }
 
-TEST(TabInterface, MoreScreenSetsUpItsScrollArea) {
-    AppHarness app({.firstTime = QString("no")});
-    app.launch();
-    auto* tabs = AppState::shared().tabBarController;
-    tabs->setSelectedIndex(4);
-    auto* more = qobject_cast<MoreScreen*>(tabs->viewControllers()[4]->topViewController());
-    ASSERT_NE(more, nullptr);
-    EXPECT_EQ(more->title(), "More");
-    EXPECT_EQ(more->lb1()->textAlignment(), 3);
-    EXPECT_EQ(more->mainscrol()->contentSize(), QSizeF(320, 690));
-    EXPECT_FALSE(more->mainscrol()->automaticallyAdjustsInsets());
-    app.settle();
-    EXPECT_TRUE(more->lb1()->text().contains("budget"));  // the layout's text
-    EXPECT_TRUE(more->lb2()->text().contains("SR24"));
-}
 
 TEST(SplashScreen, MakesTheSameChoiceAndHidesTheBarMeanwhile) {
     AppHarness app({.firstTime = QString("no")});

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
 
@@ -104,25 +105,61 @@ TEST(Program, AnswersHelpAndVersionWithoutADisplayAndOtherwiseSaysWhyItCannotSta
     EXPECT_TRUE(start.err.contains("calorie-counter: This application failed to start")) << start.err.toStdString();
 }
 
-TEST(Program, WhereItCannotGoOnItEndsWithStatusOneAndNamesTheCauseAndTheFile) {
+// Each way a plan cannot be shown: the cause as it is, the command-line ways out that apply,
+// status 1, and the file left as it was found.
+TEST(Program, WhereItCannotGoOnItNamesTheCauseAndTheWaysOutAndKeepsTheFile) {
+    const auto damage = [](const std::string& db, std::streamoff at, const std::string& bytes) {
+        std::fstream file(db, std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(at);
+        file << bytes;
+    };
     struct Case {
-        const char* breakage;
+        const char* what;
+        std::function<void(const std::string& db)> breakage;
         const char* cause;
+        const char* ways;  // the options offered, in order, each followed by a space
     };
     const Case cases[] = {
-        {"", "has no day record for today (day 367 of a 366-day plan)"},
-        {"DELETE FROM profileData WHERE id = 2", "has no profile record"},
+        {"ended", {}, "ended on ", "--export-csv --new-plan "},
+        {"no profile", [](auto& db) { execSql(db, "DELETE FROM profileData WHERE id = 2"); },
+         "has no profile record", "--export-csv --new-plan "},
+        {"table missing", [](auto& db) { execSql(db, "DROP TABLE dailyData"); },
+         "the table dailyData is missing", "--new-plan "},
+        {"interrupted", [](auto& db) { execSql(db, "DELETE FROM dailyData WHERE id >= 0"); },
+         "was interrupted before its days were stored", "--finish-plan --new-plan "},
+        {"deleted", [](auto& db) { std::filesystem::remove(db); }, "is missing", "--new-plan "},
+        {"empty", [](auto& db) { std::filesystem::resize_file(db, 0); }, "the file is empty",
+         "--new-plan "},
+        {"random bytes", [&](auto& db) { damage(db, 0, std::string(4096, '\x5a')); },
+         "the file is damaged: file is not a database", "--new-plan "},
+        {"header zeroed", [&](auto& db) { damage(db, 0, std::string(100, '\0')); },
+         "the file is damaged", "--new-plan "},
+        {"cut short", [](auto& db) { std::filesystem::resize_file(db, 40000); },
+         "the file is damaged", "--new-plan "},
+        {"a folder", [](auto& db) {
+             std::filesystem::remove(db);
+             std::filesystem::create_directory(db);
+         }, "is not a file", "--new-plan "},
     };
     for (const Case& c : cases) {
         // The plan's 366 days are over.
         const DataFolder folder(Clock::now() - 24h * 366 - 3h, 366);
-        execSql(folder.database(), c.breakage);
+        if (c.breakage) c.breakage(folder.database());
+        const bool file = std::filesystem::is_regular_file(folder.database());
+        const std::string before = file ? contents(folder.database()) : "";
         const auto program = folder.start();
         const QString err = ended(*program);
         expectEndedWithStatusOne(*program);
-        const QString line = QString("calorie-counter: the plan in %1 %2\n")
-                                 .arg(QString::fromStdString(folder.database()), c.cause);
-        EXPECT_TRUE(err.contains(line)) << err.toStdString();
+        EXPECT_TRUE(err.contains(c.cause) &&
+                    err.contains(QString::fromStdString(folder.database())))
+            << c.what << ": " << err.toStdString();
+        QString offered;
+        for (const QString& line : err.split('\n'))
+            if (line.startsWith("  calorie-counter --")) offered += line.section(' ', 3, 3) + ' ';
+        EXPECT_EQ(offered.toStdString(), c.ways) << c.what;
+        if (file) {
+            EXPECT_EQ(contents(folder.database()), before) << c.what;
+        }
     }
 }
 
@@ -210,7 +247,7 @@ TEST(EndMessageWindow, ShowsTheMessageUntilThePersonQuitsByButtonOrKey) {
         EXPECT_TRUE(closed);
         EXPECT_TRUE(names.contains("Calorie Counter cannot go on"))
             << names.join('|').toStdString();
-        EXPECT_TRUE(names.contains("The plan in /data/food.db has no profile record"));
+        EXPECT_TRUE(names.contains("The plan in /data/food.db has no profile record."));
         EXPECT_EQ(endMessageWindow(), nullptr);
     }
 }

@@ -4,6 +4,7 @@
 
 #include <QQuickItem>
 #include <QTest>
+#include <sqlite3.h>
 
 #include "dashboard/TodayScreen.h"
 #include "overlay/StatusOverlay.h"
@@ -138,4 +139,32 @@ TEST(DashboardSmallPhone, TodayScrollsOnA480PointScreen) {
     QQuickItem* burned = app.findByName("0 Cal", 1);
     ASSERT_NE(burned, nullptr);
     EXPECT_LE(burned->mapToScene(QPointF(0, burned->height())).y(), 480 - 49);
+}
+
+// Another program holds the file while a day is booked: the booking is said to be lost, the
+// figures stay what the file holds, and the booking after the lock is gone is stored.
+TEST(DashboardWriteFailure, ABookingTheFileDoesNotTakeIsShownAndTheNextIsStored) {
+    AppHarness app({.firstTime = QString("no")});
+    const std::string db = app.prepareDatabase();
+    writePlan(db, Clock::now() - std::chrono::hours(3), "1850", 366);
+    execSql(db, "UPDATE dailyData SET calorieConsumed = 400 WHERE id = 0");
+    app.launch();
+    CalorieStore& store = app.delegate().store();
+    {
+        sqlite3* other = nullptr;
+        ASSERT_EQ(sqlite3_open(db.c_str(), &other), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+        store.UpdateDatabase1("calorieConsumed", "900", 0);
+        store.readDataFromDatabaseMainTable();
+        sqlite3_close(other);
+    }
+    app.settle();
+    EXPECT_NE(app.findByName("Not saved: another program holds the file"), nullptr);
+    EXPECT_EQ(dayInFile(db, 0), "400 0");
+    ASSERT_TRUE(app.click("Today"));
+    EXPECT_NE(app.findByName("400 Cal"), nullptr);
+
+    store.UpdateDatabase1("calorieConsumed", "900", 0);
+    store.readDataFromDatabaseMainTable();
+    EXPECT_EQ(dayInFile(db, 0), "900 0");
 }

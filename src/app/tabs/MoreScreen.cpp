@@ -11,6 +11,7 @@ void MoreScreen::viewDidLoad() {
     ViewController::viewDidLoad();
     lb1_.setTextAlignment(3);  // justified
     mainscrol_.setAutomaticallyAdjustsInsets(false);
-    mainscrol_.setContentSize(QSizeF(320, 690));
+    // The texts' height and the "Your data" section's below them.
+    mainscrol_.setContentSize(QSizeF(320, 690 + 170));
     AppState::shared().defaults = Application::delegate()->standardUserDefaults();
 }

@@ -1,9 +1,11 @@
 #pragma once
-// The fifth tab: what the program does and where its data lives. The texts are the layout's.
+// The fifth tab: what the program does, where its data lives, and what a person can do with it.
+// The texts are the layout's.
 
 #include "ui/Label.h"
 #include "ui/ScrollView.h"
 #include "ui/ViewController.h"
+#include "app/tabs/YourDataSection.h"
 
 class MoreScreen : public ViewController {
     Q_OBJECT
@@ -12,6 +14,7 @@ class MoreScreen : public ViewController {
     Q_PROPERTY(Label* lb1 READ lb1 CONSTANT)
     Q_PROPERTY(Label* lb2 READ lb2 CONSTANT)
     Q_PROPERTY(ScrollView* mainscrol READ mainscrol CONSTANT)
+    Q_PROPERTY(YourDataSection* yourData READ yourData CONSTANT)
 
 public:
     explicit MoreScreen(QObject* parent = nullptr);
@@ -19,6 +22,7 @@ public:
     Label* lb1() { return &lb1_; }
     Label* lb2() { return &lb2_; }
     ScrollView* mainscrol() { return &mainscrol_; }
+    YourDataSection* yourData() { return &yourData_; }
 
 protected:
     void viewDidLoad() override;
@@ -27,4 +31,5 @@ private:
     Label lb1_;
     Label lb2_;
     ScrollView mainscrol_;
+    YourDataSection yourData_;
 };

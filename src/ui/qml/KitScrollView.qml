@@ -25,4 +25,22 @@ Flickable {
         KitSubviews { view: root.model }
     }
     FrameBinding { item: root; model: root.model }
+
+    // A control reached by Tab below or above the visible part is scrolled into view, as a
+    // pointer user scrolls to it before clicking.
+    Connections {
+        target: root.Window.window
+        function onActiveFocusItemChanged() { root.reveal(root.Window.activeFocusItem) }
+    }
+    function reveal(item: Item) {
+        let inside = item
+        while (inside && inside !== root.contentItem) inside = inside.parent
+        if (!inside) return
+        const area = item.mapToItem(root.contentItem, 0, 0, item.width, item.height)
+        const margin = 8
+        let y = contentY
+        if (area.y + area.height > y + height) y = area.y + area.height - height + margin
+        if (area.y < y) y = area.y - margin
+        contentY = Math.max(0, Math.min(y, contentHeight - height))
+    }
 }

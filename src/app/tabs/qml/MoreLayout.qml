@@ -25,8 +25,14 @@ KitScreen {
             font.pixelSize: 13
             lineHeight: 1.15
         }
-        KitLabel {
+        YourDataButtons {
+            id: yourData
             x: 16; y: about.y + about.height + 20; width: 288
+            model: layout.screen.yourData
+            headingSize: 20; buttonSize: 17
+        }
+        KitLabel {
+            x: 16; y: yourData.y + yourData.height + 20; width: 288
             model: layout.screen.lb2
             font.pixelSize: 12
             color: Theme.fineText

@@ -25,8 +25,14 @@ KitScreen {
             font.pixelSize: 18
             lineHeight: 1.15
         }
-        KitLabel {
+        YourDataButtons {
+            id: yourData
             x: 64; y: about.y + about.height + 28; width: 640
+            model: layout.screen.yourData
+            headingSize: 28; buttonSize: 20
+        }
+        KitLabel {
+            x: 64; y: yourData.y + yourData.height + 28; width: 640
             model: layout.screen.lb2
             font.pixelSize: 16
             color: Theme.fineText

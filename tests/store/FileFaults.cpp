@@ -1,0 +1,170 @@
+#include "FileFaults.h"
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iterator>
+#include <random>
+
+#include "support/Fixtures.h"
+
+std::string makePlan(const std::filesystem::path& path, int days) {
+    // Made once per length: the set-up's day inserts, one transaction each, take a while.
+    static const TempDir made;
+    const std::filesystem::path plan = made.path() / ("plan-" + std::to_string(days) + ".db");
+    if (!std::filesystem::exists(plan)) {
+        std::filesystem::copy_file(FOOD_DB_PATH, plan);
+        std::filesystem::permissions(plan, std::filesystem::perms::owner_write,
+                                     std::filesystem::perm_options::add);
+        writePlan(plan.string(), kPlanStart, "1850", days);
+    }
+    std::filesystem::create_directories(path.parent_path());
+    std::filesystem::copy_file(plan, path, std::filesystem::copy_options::overwrite_existing);
+    return path.string();
+}
+
+const char* describe(Damage damage) {
+    constexpr const char* kNames[] = {"deleted",         "emptied",       "random bytes",
+                                      "cut short",       "header zeroed", "page scrambled",
+                                      "folder in place", "table dropped", "column dropped",
+                                      "no profile",      "no days"};
+    return kNames[static_cast<int>(damage)];
+}
+
+namespace {
+
+std::string noise(size_t size) {
+    std::mt19937 random(17);
+    std::string bytes(size, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    return bytes;
+}
+
+void overwrite(const std::filesystem::path& path, std::streamoff at, const std::string& bytes) {
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(at);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+}  // namespace
+
+void damage(const std::filesystem::path& path, Damage damage) {
+    const std::string file = path.string();
+    switch (damage) {
+        case Damage::deleted:
+            std::filesystem::remove(path);
+            break;
+        case Damage::emptied:
+            std::filesystem::resize_file(path, 0);
+            break;
+        case Damage::randomBytes:
+            std::filesystem::remove(path);
+            std::ofstream(path, std::ios::binary) << noise(8192);
+            break;
+        case Damage::cutShort:
+            std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+            break;
+        case Damage::headerZeroed:
+            overwrite(path, 0, std::string(100, '\0'));
+            break;
+        case Damage::pageScrambled:
+            overwrite(path, 100 * 4096, noise(4096));
+            break;
+        case Damage::folderInPlace:
+            std::filesystem::remove(path);
+            std::filesystem::create_directory(path);
+            break;
+        case Damage::tableDropped:
+            execSql(file, "DROP TABLE dailyData");
+            break;
+        case Damage::columnDropped:
+            execSql(file, "ALTER TABLE food DROP COLUMN unit");
+            break;
+        case Damage::noProfile:
+            execSql(file, "DELETE FROM profileData WHERE id = 2");
+            break;
+        case Damage::noDays:
+            execSql(file, "DELETE FROM dailyData WHERE id >= 0");
+            break;
+    }
+}
+
+HeldLock::HeldLock(const std::filesystem::path& path, const char* begin) {
+    sqlite3_open(path.c_str(), &db_);
+    if (sqlite3_exec(db_, begin, nullptr, nullptr, nullptr) != SQLITE_OK) std::abort();
+}
+
+HeldLock::~HeldLock() {
+    sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(db_);
+}
+
+std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::map<std::string, std::string> snapshot(const std::filesystem::path& folder) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        const std::string name = entry.path().lexically_relative(folder).string();
+        files[name] = entry.is_directory() ? "<folder>" : bytesOf(entry.path());
+    }
+    return files;
+}
+
+int inChild(const std::function<int()>& body) {
+    const pid_t child = fork();
+    if (child < 0) return -1;
+    if (child == 0) {
+        const rlimit none{0, 0};
+        setrlimit(RLIMIT_CORE, &none);
+        _exit(body());
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+namespace {
+// Mounts made after this vanish with the child and are never seen by the rest of the system.
+bool privateMounts() {
+    return unshare(CLONE_NEWNS) == 0 &&
+           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+}  // namespace
+
+bool mountSmallDisk(const std::filesystem::path& folder, size_t bytes) {
+    const std::string options = "size=" + std::to_string(bytes);
+    return privateMounts() && mount("tmpfs", folder.c_str(), "tmpfs", 0, options.c_str()) == 0;
+}
+
+bool mountReadOnly(const std::filesystem::path& folder) {
+    return privateMounts() &&
+           mount(folder.c_str(), folder.c_str(), nullptr, MS_BIND, nullptr) == 0 &&
+           mount(nullptr, folder.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr) == 0;
+}
+
+void fillDisk(const std::filesystem::path& folder) {
+    const int fd = open((folder / "filler").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    const std::string block(65536, 'x');
+    for (const size_t size : {block.size(), size_t{1}})
+        while (write(fd, block.data(), size) == static_cast<ssize_t>(size)) {
+        }
+    close(fd);
+}
+
+std::string queryJoined(const std::filesystem::path& path, const char* sql) {
+    std::string joined;
+    const char* separator = "";
+    for (const std::string& value : queryColumn(path.string(), sql)) {
+        joined += separator + value;
+        separator = "|";
+    }
+    return joined;
+}

@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include "FileFaults.h"
+#include "store/PlanCheck.h"
+#include "support/Fixtures.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+TEST(PlanCheckTest, NamesWhatIsWrongWithEachKindOfFileAndChangesNone) {
+    struct Case {
+        Damage damage;
+        PlanFault fault;
+        std::string text;  // what it starts with; "@" stands for the path
+    };
+    const Case cases[] = {
+        {Damage::deleted, PlanFault::missing, "there is no file at @"},
+        {Damage::folderInPlace, PlanFault::notAFile, "@ is not a file"},
+        {Damage::emptied, PlanFault::empty, "the file is empty"},
+        {Damage::randomBytes, PlanFault::damaged, "the file is damaged: file is not a database"},
+        {Damage::headerZeroed, PlanFault::damaged, "the file is damaged: file is not a database"},
+        {Damage::cutShort, PlanFault::damaged,
+         "the file is damaged: database disk image is malformed"},
+        {Damage::pageScrambled, PlanFault::damaged, "the file is damaged: "},
+        {Damage::tableDropped, PlanFault::tableMissing, "the table dailyData is missing"},
+        {Damage::columnDropped, PlanFault::columnMissing, "the table food has no column unit"},
+        {Damage::noProfile, PlanFault::noProfile, "the file has no profile record"},
+        {Damage::noDays, PlanFault::setUpUnfinished,
+         "the set-up was interrupted before the plan's days were stored"},
+    };
+    for (const Case& c : cases) {
+        TempDir dir;
+        const std::string path = makePlan(dir.file("food.db"));
+        damage(path, c.damage);
+        const auto before = snapshot(dir.path());
+        const PlanCheck check = checkPlan(path);
+        EXPECT_EQ(check.fault, c.fault) << describe(c.damage) << ": " << check.text();
+        std::string text = c.text;
+        if (const size_t at = text.find('@'); at != std::string::npos) text.replace(at, 1, path);
+        EXPECT_EQ(check.text().substr(0, text.size()), text) << describe(c.damage);
+        EXPECT_EQ(snapshot(dir.path()), before) << describe(c.damage);
+    }
+}
+
+TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamed) {
+    TempDir dir;
+    const std::string path = makePlan(dir.file("food.db"));
+    {
+        const HeldLock lock(path, "BEGIN EXCLUSIVE");
+        const auto started = std::chrono::steady_clock::now();
+        const PlanCheck check = checkPlan(path, 300ms);
+        EXPECT_GE(std::chrono::steady_clock::now() - started, 300ms);
+        EXPECT_EQ(check.text(), "another program holds " + path);
+    }
+    // A reader does not stand in the way.
+    const HeldLock reader(path, "BEGIN; SELECT count(*) FROM food;");
+    EXPECT_TRUE(checkPlan(path, 300ms).ok());
+}
+
+TEST(PlanCheckTest, AGoodPlanGivesTheFactsForTheMessages) {
+    TempDir dir;
+    const std::string path = makePlan(dir.file("food.db"));
+    // The set-up writes "+0000"; plans from before say "GMT".
+    execSql(path,
+            "UPDATE profileData SET startingDate = '2025-11-14 09:30:00 GMT', "
+            "calorieBudget = '2100 kcal' WHERE id = 2");
+    const PlanCheck check = checkPlan(path);
+    ASSERT_TRUE(check.ok()) << check.text();
+    EXPECT_EQ(check.facts.start, kPlanStart);
+    EXPECT_EQ(check.facts.days, 366);
+    EXPECT_EQ(check.facts.budget, 2100);
+}
+
+TEST(PlanCheckTest, ThePlanEndsOnceTodayIsPastItsLastDay) {
+    const ScopedTimeZone zone("Europe/Berlin");
+    PlanFacts facts{.start = kPlanStart, .days = 366, .budget = 1850, .hasProfile = true};
+    const Instant lastDay = kPlanStart + 365 * 24h;
+    EXPECT_FALSE(planEnded(facts, kPlanStart - 48h));  // a start ahead is the first day
+    EXPECT_FALSE(planEnded(facts, lastDay + 23h + 59min));
+    const auto ended = planEnded(facts, lastDay + 24h);
+    ASSERT_TRUE(ended);
+    EXPECT_EQ(ended->text(), "the plan ended on 2026-11-14 (today is day 367 of 366)");
+    EXPECT_EQ(planEnded(facts, lastDay + 24h * 30)->today, 396);
+
+    // A set-up cut short after ten day rows ends after ten days.
+    facts.days = 10;
+    EXPECT_EQ(planEnded(facts, kPlanStart + 24h * 10)->text(),
+              "the plan ended on 2025-11-23 (today is day 11 of 10)");
+    facts.start.reset();  // a start that does not parse keeps the app on the first day
+    EXPECT_FALSE(planEnded(facts, lastDay + 24h * 30));
+}
+
+// A booking's process killed after SQLite wrote pages into the file but before the commit leaves
+// a hot journal: that is the last stored plan to be put back, not damage.
+TEST(PlanCheckTest, AWriteCutShortIsUndoneAndNotCalledDamage) {
+    TempDir dir;
+    const std::string path = makePlan(dir.file("food.db"));
+    const int status = inChild([&] {
+        sqlite3* db = nullptr;
+        sqlite3_open(path.c_str(), &db);
+        // A tiny cache spills the changed pages into the file before the commit.
+        sqlite3_exec(db,
+                     "PRAGMA cache_size = 2; BEGIN; UPDATE food SET calories = -1;"
+                     "DELETE FROM dailyData;",
+                     nullptr, nullptr, nullptr);
+        return 0;  // ends without commit, rollback or close
+    });
+    ASSERT_EQ(status, 0);
+    ASSERT_TRUE(std::filesystem::exists(path + "-journal"));
+    const PlanCheck check = checkPlan(path);
+    EXPECT_TRUE(check.ok()) << check.text();
+    EXPECT_EQ(check.facts.days, 366);
+    EXPECT_EQ(queryJoined(path, "SELECT count(*) FROM food WHERE calories = -1"), "0");
+}
+
+}  // namespace
