@@ -2,6 +2,7 @@
 
 #include "FileFaults.h"
 #include "store/PlanCheck.h"
+#include "store/PlanFinish.h"
 #include "support/Fixtures.h"
 
 using namespace std::chrono_literals;
@@ -30,20 +31,21 @@ TEST(PlanCheckTest, NamesWhatIsWrongWithEachKindOfFileAndChangesNone) {
          "the set-up was interrupted before the plan's days were stored"},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(describe(c.damage));
         TempDir dir;
         const std::string path = makePlan(dir.file("food.db"));
         damage(path, c.damage);
         const auto before = snapshot(dir.path());
         const PlanCheck check = checkPlan(path);
-        EXPECT_EQ(check.fault, c.fault) << describe(c.damage) << ": " << check.text();
+        EXPECT_EQ(check.fault, c.fault) << check.text();
         std::string text = c.text;
         if (const size_t at = text.find('@'); at != std::string::npos) text.replace(at, 1, path);
-        EXPECT_EQ(check.text().substr(0, text.size()), text) << describe(c.damage);
-        EXPECT_EQ(snapshot(dir.path()), before) << describe(c.damage);
+        EXPECT_EQ(check.text().substr(0, text.size()), text);
+        EXPECT_EQ(snapshot(dir.path()), before);
     }
 }
 
-TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamed) {
+TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamedAndAReaderIsNot) {
     TempDir dir;
     const std::string path = makePlan(dir.file("food.db"));
     {
@@ -53,7 +55,6 @@ TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamed) {
         EXPECT_GE(std::chrono::steady_clock::now() - started, 300ms);
         EXPECT_EQ(check.text(), "another program holds " + path);
     }
-    // A reader does not stand in the way.
     const HeldLock reader(path, "BEGIN; SELECT count(*) FROM food;");
     EXPECT_TRUE(checkPlan(path, 300ms).ok());
 }
@@ -68,8 +69,7 @@ TEST(PlanCheckTest, AGoodPlanGivesTheFactsForTheMessages) {
     const PlanCheck check = checkPlan(path);
     ASSERT_TRUE(check.ok()) << check.text();
     EXPECT_EQ(check.facts.start, kPlanStart);
-    EXPECT_EQ(check.facts.days, 366);
-    EXPECT_EQ(check.facts.budget, 2100);
+    EXPECT_EQ(std::tuple(check.facts.days, check.facts.budget), std::tuple(366, 2100));
 }
 
 TEST(PlanCheckTest, ThePlanEndsOnceTodayIsPastItsLastDay) {
@@ -112,6 +112,25 @@ TEST(PlanCheckTest, AWriteCutShortIsUndoneAndNotCalledDamage) {
     EXPECT_TRUE(check.ok()) << check.text();
     EXPECT_EQ(check.facts.days, 366);
     EXPECT_EQ(queryJoined(path, "SELECT count(*) FROM food WHERE calories = -1"), "0");
+}
+
+// The missing day rows come out as the set-up writes them: from the stored start, or from now
+// when that does not parse; a finished plan gets none.
+TEST(PlanFinishTest, AnInterruptedSetUpsDaysAreWrittenAsTheSetUpWouldHave) {
+    constexpr const char* kDays =
+        "SELECT group_concat(id || date || calorieConsumed) FROM dailyData";
+    TempDir dir;
+    const std::string whole = makePlan(dir.file("whole.db"));
+    const std::string cut = makePlan(dir.file("cut.db"), 10);
+    EXPECT_EQ(finishPlan(cut, kPlanStart + 24h * 40), "");
+    EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
+    EXPECT_EQ(finishPlan(cut, kPlanStart + 24h * 40), "");
+    EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
+    execSql(cut,
+            "DELETE FROM dailyData WHERE id >= 200;"
+            "UPDATE profileData SET startingDate = 'soon' WHERE id = 2");
+    EXPECT_EQ(finishPlan(cut, kPlanStart), "");
+    EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
 }
 
 }  // namespace
