@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "FileFaults.h"
+#include "store/DeadEnd.h"
 #include "store/PlanCheck.h"
 #include "store/PlanFinish.h"
 #include "support/Fixtures.h"
@@ -131,6 +132,44 @@ TEST(PlanFinishTest, AnInterruptedSetUpsDaysAreWrittenAsTheSetUpWouldHave) {
             "UPDATE profileData SET startingDate = 'soon' WHERE id = 2");
     EXPECT_EQ(finishPlan(cut, kPlanStart), "");
     EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
+}
+
+// The start's verdict names what happened and offers only the ways out that can work.
+TEST(DeadEndTest, EachCauseOffersTheWaysOutThatApply) {
+    TempDir dir;
+    const std::string db = makePlan(dir.file("food.db"));
+    const Instant today = kPlanStart + 24h * 10;
+    EXPECT_FALSE(findDeadEnd(dir.path(), today));
+
+    const auto ways = [&](Instant now, bool missing = false) {
+        const auto end = findDeadEnd(dir.path(), now, missing);
+        if (!end) return std::string("none");
+        std::string found = end->cause + ":";
+        for (const bool way :
+             {end->canExport, end->canRestore, end->setUpInterrupted, end->canStartNew})
+            found += way ? '1' : '0';
+        return found;
+    };
+    EXPECT_EQ(ways(kPlanStart + 24h * 366),
+              "the plan in " + db + " ended on 2026-11-14 (today is day 367 of 366):1001");
+    EXPECT_EQ(ways(today, true),
+              "the plan's file " + db + " is missing: it was deleted or moved:1001");
+    std::filesystem::create_directories(dir.path() / "backups");
+    std::filesystem::copy_file(db, dir.path() / "backups" / "food-2025-11-20.db");
+    {
+        const HeldLock lock(db, "BEGIN EXCLUSIVE");
+        const auto held = findDeadEnd(dir.path(), today);  // after the lock wait
+        ASSERT_TRUE(held);
+        EXPECT_EQ(
+            held->forTerminal(),
+            "the plan in " + db + " cannot be opened: another program holds " + db +
+                ".\n"
+                "  calorie-counter --restore latest    puts back the newest automatic backup\n"
+                "  Close the program that holds it, then start again.");
+    }
+    damage(db, Damage::noDays);
+    EXPECT_EQ(ways(today), "the set-up of the plan in " + db +
+                               " was interrupted before its days were stored:0111");
 }
 
 }  // namespace
