@@ -1,6 +1,6 @@
 # The two commands people need: `make run` and `make test`. Everything installs what it needs.
 # `make run ARGS="--idiom pad"` passes options to the app.
-.PHONY: test run bench package fuzz fuzz-build deps food-db format clean
+.PHONY: test run bench package fuzz fuzz-build mutate deps food-db format clean
 
 # Each fuzzer runs a few seconds over its seeds first, so a reintroduced fault is caught; qmllint
 # fails the run on any warning in the QML modules; the main suite comes last, and its summary
@@ -45,6 +45,11 @@ fuzz: deps fuzz-build
 fuzz-build:
 	cmake --preset fuzz
 	cmake --build --preset fuzz
+
+# How many small changes to the sources the tests notice, built in build/mutate; a low score is a
+# report, not a failure. `make mutate MUTATE_ARGS="--sample 20 src/food"`; see tools/mutate --help.
+mutate: deps
+	tools/mutate $(MUTATE_ARGS)
 
 deps:
 	@scripts/install-deps

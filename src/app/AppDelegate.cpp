@@ -4,10 +4,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QStandardPaths>
-#include <QFileInfo>
 #include <QThread>
 #include <QTimer>
 
@@ -16,8 +16,8 @@
 #include "overlay/StatusOverlay.h"
 #include "setup/MeasureUnitScreen.h"
 #include "store/AppState.h"
-#include "store/DevLog.h"
 #include "store/DeadEnd.h"
+#include "store/DevLog.h"
 #include "store/PlanBackup.h"
 #include "store/ProgramEnd.h"
 #include "store/YourData.h"
@@ -120,7 +120,8 @@ bool AppDelegate::didFinishLaunchingWithOptions() {
 
 bool AppDelegate::planOpens(bool fileWasMissing) {
     const YourData data(*defaults_, dataFolder_.toStdString());
-    while (const std::optional<DeadEnd> end = findDeadEnd(data, Clock::now(), fileWasMissing)) {
+    while (const std::optional<DeadEnd> end =
+               findDeadEnd(dataFolder_.toStdString(), Clock::now(), fileWasMissing)) {
         fileWasMissing = false;  // a way out has put a file in place
         if (!offerWaysOut(*end, data)) {
             setProgramEndPresenter({});  // the person has read it in the window already

@@ -1,9 +1,8 @@
+// The budget gauge's arithmetic: scale marks, calories per point, the budget line, and each
+// screen's fixed geometry.
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <limits>
-#include <string>
-#include <vector>
 
 #include "dashboard/Gauge.h"
 #include "support/Fixtures.h"
@@ -42,11 +41,9 @@ TEST(Gauge, ScaleBudgetLineAndLogLines) {
     EXPECT_NEAR(barLength(925, phone), 98.667f, 0.001f);
     const BudgetLine line = budgetLine(1850, phone, todayGeometry(false));
     EXPECT_NEAR(line.x, 197.333f, 0.001f);
-    EXPECT_EQ(line.y1, 96);
-    EXPECT_EQ(line.y2, 145);
-    EXPECT_EQ(line.titleFrame, (Rect{line.x - 39, 134, 57, 17}));
-    EXPECT_EQ(line.valueFrame, (Rect{line.x + 5, 134, 57, 17}));
-    EXPECT_EQ(line.valueText, "1850");
+    EXPECT_EQ(std::tuple(line.y1, line.y2, line.valueText), std::tuple(96, 145, "1850"));
+    EXPECT_EQ(std::pair(line.titleFrame, line.valueFrame),
+              std::pair(Rect{line.x - 39, 134, 57, 17}, Rect{line.x + 5, 134, 57, 17}));
     EXPECT_EQ(budgetLine(1850, phone, logGeometry(false)).titleFrame.y, 197);
     // Each mark stands under the calories its text reads; the top mark at the right end.
     EXPECT_DOUBLE_EQ(markPosition("1000", "3000", 320), 320.0 / 3);
@@ -62,12 +59,11 @@ TEST(Gauge, ScaleBudgetLineAndLogLines) {
 TEST(Gauge, GeometryOfBothScreensAndIdioms) {
     for (const bool isPad : {false, true}) {
         for (const GaugeGeometry& g : {todayGeometry(isPad), logGeometry(isPad)}) {
-            SCOPED_TRACE(isPad);
             EXPECT_EQ(g.width, isPad ? 768 : 320);
-            EXPECT_LT(g.budgetLineY1, g.barCentreY - g.barThickness / 2);
-            EXPECT_GT(g.budgetLineY2, g.barCentreY + g.barThickness / 2);
-            EXPECT_EQ(g.barColour, (Rgb{46, 139, 87}));
-            EXPECT_EQ(g.budgetLineColour, (Rgb{218, 165, 32}));
+            EXPECT_LT(g.budgetLineY1, g.barCentreY - g.barThickness / 2) << isPad;
+            EXPECT_GT(g.budgetLineY2, g.barCentreY + g.barThickness / 2) << isPad;
+            EXPECT_EQ(std::pair(g.barColour, g.budgetLineColour),
+                      std::pair(Rgb{46, 139, 87}, Rgb{218, 165, 32}));
         }
     }
 }

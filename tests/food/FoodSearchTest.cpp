@@ -24,15 +24,11 @@ Hits find(std::string_view query, const std::vector<std::string>& names = kNames
     return hits;
 }
 
-// What a result list over these hits reads, entry by entry.
-std::vector<std::string> texts(const std::vector<std::string>& list, const Hits& hits) {
-    return ResultList(list, hits, "list").texts();
-}
-
 // Letter case is ignored (beyond ASCII too), accents are not; the query is taken as it stands,
 // spaces included; a name holding it twice is listed once.
 TEST(FoodSearch, FindsTheQueryAnywhereIgnoringCaseOnly) {
-    for (const char* query : {"ap", "AP", "aP"}) EXPECT_EQ(find(query), (Hits{0, 1, 2, 3, 4, 0, 9})) << query;
+    for (const char* query : {"ap", "AP", "aP"})
+        EXPECT_EQ(find(query), (Hits{0, 1, 2, 3, 4, 0, 9})) << query;
     EXPECT_EQ(find("äPFEL, grün"), Hits{7});
     EXPECT_EQ(find("apfel"), Hits{});
     EXPECT_EQ(find(" pie"), (Hits{0, 0, 9}));
@@ -48,17 +44,13 @@ TEST(FoodSearch, FindsTheQueryAnywhereIgnoringCaseOnly) {
 
 // With the developer log on, the pass walks name by name and says so, and finds the same.
 TEST(FoodSearch, LoggedPassFindsTheSameAndTellsWhere) {
-    const FoodSearch search(kNames);
     for (const char* query : {"ap", " pie", "zzz"}) {
-        Hits quiet, logged;
-        search.run(query, quiet);
+        const Hits quiet = find(query);
         LogCapture log;
-        search.run(query, logged);
-        EXPECT_EQ(logged, quiet) << query;
+        EXPECT_EQ(find(query), quiet) << query;
     }
     LogCapture log;
-    Hits hits;
-    search.run("BRÛLÉE", hits);
+    EXPECT_EQ(find("BRÛLÉE"), Hits{8});
     // Every name tested, and the hit's place in UTF-16 characters, as the platform counts them.
     std::vector<std::string> expected(kNames.begin(), kNames.begin() + 9);
     expected.insert(expected.end(), {"-----location--------6", "====================8", kNames[9]});
@@ -75,9 +67,8 @@ TEST(FoodSearch, OneIndexServesEveryScreenUntilTheNamesChange) {
     EXPECT_EQ(hits, Hits{1});
 }
 
-// The whole shipped catalogue as the store reads it, against SQLite's own case-insensitive
-// match (the catalogue is ASCII), short and long queries alike. Its first row is passed over by
-// the read, so a name put there is never found. Result lists read the calories at the hits.
+// The shipped catalogue as the store reads it (its first row passed over) against SQLite's own
+// case-insensitive match, short and long queries alike; result lists read the calories at hits.
 TEST(FoodSearch, ShippedCatalogueAgreesWithSqlAndNeverFindsTheFirstRow) {
     TempDir dir;
     AppState state;
@@ -87,13 +78,17 @@ TEST(FoodSearch, ShippedCatalogueAgreesWithSqlAndNeverFindsTheFirstRow) {
     CalorieStore(state).readDataFromDatabaseFoodTable();
     const FoodSearch search(state.foodNames);
     Hits hits;
-    for (const char* query : {"a", "Ap", "APPL", "chicken breast", "beverages, carbonated, cola", "zebra", "%"}) {
+    for (const char* query :
+         {"a", "Ap", "APPL", "chicken breast", "beverages, carbonated, cola", "zebra", "%"}) {
         search.run(query, hits);
-        const std::string where = std::string(" FROM food WHERE id > 0 AND instr(lower(name), lower('") + query +
-                                  "')) ORDER BY id";
-        EXPECT_EQ(texts(state.foodNames, hits), queryColumn(state.databasePath, ("SELECT name" + where).c_str()))
-            << query;
-        EXPECT_EQ(texts(state.foodCalories, hits), queryColumn(state.databasePath, ("SELECT calories" + where).c_str()));
+        const std::string where =
+            std::string(" FROM food WHERE id > 0 AND instr(lower(name), lower('") + query +
+            "')) ORDER BY id";
+        const auto sql = [&](const char* column) {
+            return queryColumn(state.databasePath, ("SELECT " + (column + where)).c_str());
+        };
+        EXPECT_EQ(ResultList(state.foodNames, hits, "foodNames").texts(), sql("name")) << query;
+        EXPECT_EQ(ResultList(state.foodCalories, hits, "foodCalories").texts(), sql("calories"));
     }
 }
 

@@ -1,3 +1,5 @@
+// The status overlay's box: its size around the text, its turn and place for each orientation
+// and keyboard, and how long a timed message stays.
 #include <gtest/gtest.h>
 
 #include <numbers>
@@ -10,12 +12,7 @@ using namespace overlay;
 // Below 76 points of text the box keeps its minimum width, the label spanning it to centre the
 // text; text past the measuring box is held to it.
 TEST(OverlayLayout, BoxSizeFollowsTheText) {
-    struct Case {
-        std::optional<Size> text;
-        Size box;
-        Rect label;
-        Point centre;
-    };
+    struct Case { std::optional<Size> text; Size box; Rect label; Point centre; };
     for (const Case& c : {Case{std::nullopt, {100, 100}, {}, {50, 50}},
                           Case{Size{50, 20}, {100, 100}, {0, 66, 100, 20}, {50, 36}},
                           Case{Size{76, 20}, {100, 100}, {12, 66, 76, 20}, {50, 36}},
@@ -24,9 +21,8 @@ TEST(OverlayLayout, BoxSizeFollowsTheText) {
                           Case{Size{500, 900}, {224, 380}, {12, 66, 200, 300}, {112, 36}}}) {
         SCOPED_TRACE(c.text ? c.text->width : -1);
         const BoxLayout layout = boxLayout(c.text);
-        EXPECT_EQ(layout.box, c.box);
-        EXPECT_EQ(layout.label, c.label);
-        EXPECT_EQ(layout.centre, c.centre);
+        EXPECT_EQ(std::tuple(layout.box, layout.label, layout.centre),
+                  std::tuple(c.box, c.label, c.centre));
     }
 }
 
@@ -35,11 +31,7 @@ TEST(OverlayLayout, BoxSizeFollowsTheText) {
 TEST(OverlayLayout, RotationPlacementAndKeyboardPerOrientation) {
     constexpr float pi = std::numbers::pi_v<float>;
     const Size keyboard{162, 216};
-    struct Case {
-        Orientation orientation;
-        float angle, keyboardHeight;
-        Point centre;
-    };
+    struct Case { Orientation orientation; float angle, keyboardHeight; Point centre; };
     for (const Case& c : {Case{Orientation::Portrait, 0, 216, {160, 132}},
                           Case{Orientation::UpsideDown, pi, 216, {160, 348}},
                           Case{Orientation::LandscapeRight, pi / 2, 162, {241, 240}},

@@ -2,9 +2,6 @@
 // a daylight-saving change too, and its date picker.
 #include <gtest/gtest.h>
 
-#include <QLocale>
-#include <QTimeZone>
-
 #include "app/tabs/TabBar.h"
 #include "setup/BirthdayScreen.h"
 #include "setup/WizardApp.h"
@@ -44,27 +41,20 @@ TEST(SelectDate, FinishesSetUpInOnePressAndAgainOnTheNext) {
         EXPECT_EQ(screen->dateLbl()->text(), "December 30,1997");
         EXPECT_EQ(screen->age, 30);
         const std::string db = app.databasePath();
-        EXPECT_EQ(queryColumn(db, "SELECT calorieBudget FROM profileData WHERE id = 2"),
-                  std::vector<std::string>{c.budget});
-        const auto start = queryColumn(db, "SELECT startingDate FROM profileData WHERE id = 2");
-        ASSERT_EQ(start, std::vector<std::string>{c.now + std::string(" +0000")});
-        EXPECT_EQ(DateFormatter("yyyy-MM-dd HH:mm:ss zzz").parse(start[0]), Clock::now());
+        EXPECT_EQ(queryColumn(db, "SELECT calorieBudget || ' ' || startingDate FROM profileData "
+                                  "WHERE id = 2"),
+                  std::vector<std::string>{c.budget + std::string(" ") + c.now + " +0000"});
         EXPECT_EQ(app.firstTimeOnDisk(), "no");
 
         // One plan: ids 0 to 365 in order, labelled with the local days 86,400 seconds apart.
-        const std::string plan = " FROM dailyData WHERE id >= 0 ORDER BY rowid";  // not id -1
-        const auto ids = queryColumn(db, ("SELECT id" + plan).c_str());
-        const auto labels = queryColumn(db, ("SELECT date" + plan).c_str());
-        ASSERT_EQ(ids.size(), 366u);
-        const qint64 first = std::chrono::system_clock::to_time_t(Clock::now());
-        for (int i = 0; i < 366; ++i) {
-            const QDate day =
-                QDateTime::fromSecsSinceEpoch(first + i * 86400LL, QTimeZone(c.zone)).date();
-            EXPECT_EQ(ids[i], std::to_string(i));
-            EXPECT_EQ(labels[i], QLocale::c().toString(day, "dddd MMMM d").toStdString()) << i;
-        }
+        std::vector<std::string> ids;
+        for (int i = 0; i < 366; ++i) ids.push_back(std::to_string(i));
+        const char* kIds = "SELECT id FROM dailyData WHERE id >= 0 ORDER BY rowid";  // not id -1
+        EXPECT_EQ(queryColumn(db, kIds), ids);
         QStringList seen;
-        for (int id : {0, 1, 2, 134, 135}) seen << QString::fromStdString(labels[id]);
+        for (const std::string& label : queryColumn(db, "SELECT date FROM dailyData WHERE id IN "
+                                                        "(0, 1, 2, 134, 135) ORDER BY rowid"))
+            seen << QString::fromStdString(label);
         EXPECT_EQ(seen.join('|'), c.days);
 
         // The tab interface, over the wizard, which stays beneath it.
@@ -73,9 +63,9 @@ TEST(SelectDate, FinishesSetUpInOnePressAndAgainOnTheNext) {
 
         // Each press runs it all again: another plan and another tab interface.
         screen->selectDate(nullptr);
-        const auto again = queryColumn(db, ("SELECT id" + plan).c_str());
-        ASSERT_EQ(again.size(), 732u);
-        EXPECT_EQ(std::tuple(again[366], again[731]), std::tuple("0", "365"));
+        const auto once = ids;
+        ids.insert(ids.end(), once.begin(), once.end());
+        EXPECT_EQ(queryColumn(db, kIds), ids);
         ASSERT_EQ(app.nav()->viewControllers().size(), 3);
         EXPECT_NE(app.top<TabBar>(), nullptr);
     }

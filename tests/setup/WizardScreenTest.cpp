@@ -1,5 +1,5 @@
-// The set-up chain: each step's bar buttons and the alert of an incomplete step, going back and
-// forth, and the answers the choice and weight steps record.
+// The set-up chain: each step's bar buttons and the alert of an incomplete step, and the answers
+// the choice and weight steps record.
 #include <gtest/gtest.h>
 
 #include "setup/EnterWtScreen.h"
@@ -10,7 +10,7 @@
 #include "setup/WizardApp.h"
 #include "ui/Theme.h"
 
-TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
+TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndPreviousGoesBack) {
     const auto bar = [](ViewController* step, bool next) {
         NavigationItem* item = step->navigationItem();
         BarButtonItem* button = next ? item->rightBarButtonItem() : item->leftBarButtonItem();
@@ -33,12 +33,20 @@ TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
         EXPECT_EQ(screen->title(), title);
         EXPECT_EQ(bar(screen, false) ? bar(screen, false)->title() : "", i ? "Previous" : "");
         EXPECT_EQ(bar(screen, true) ? bar(screen, true)->title() : "", missing ? "Next" : "");
+        EXPECT_EQ(app.nav()->navigationItem()->hidesBackButton(), i > 0);
         if (!missing) break;
 
         auto* weight = qobject_cast<EnterWtScreen*>(screen);
         auto* goal = qobject_cast<GoalWeightScreen*>(screen);
         TextField* field = weight ? weight->enterWtTxt() : goal ? goal->enterGWtTxt() : nullptr;
-        if (field) field->setText(" \t ");  // blanks are no answer
+        if (field) {
+            // Asked in the unit chosen at step 1, "Imperial", with the keyboard up at once.
+            Label* unitWord = qobject_cast<WeightScreen*>(screen)->wtLbl();
+            EXPECT_EQ(std::tuple(field->placeholder(), unitWord->text(), field->firstResponder(),
+                                 field->keyboardType()),
+                      std::tuple("Pounds", "Pounds", true, TextField::KeyboardType::DecimalPad));
+            field->setText(" \t ");  // blanks are no answer
+        }
         bar(screen, true)->sendTouchUpInside();
         AlertView* alert = app.alert();
         ASSERT_NE(alert, nullptr);
@@ -47,44 +55,35 @@ TEST(WizardFlow, EachStepGoesOnOnlyWhenAnsweredAndGoingBackKeepsTheAnswers) {
         alert->clickButtonAtIndex(0);
         EXPECT_EQ(app.nav()->topViewController(), screen);
 
-        // Answered as the layouts would; the starting weight is only looked at for presence.
+        // Answered as the layouts would; the goal is the untrimmed text's leading number.
         Button second;  // the choice control tagged 1
         second.setTag(1);
         if (auto* unit = qobject_cast<MeasureUnitScreen*>(screen)) unit->selectunit(&second);
         if (auto* gender = qobject_cast<GenderScreen*>(screen)) gender->genderBtn(&second);
         if (auto* height = qobject_cast<HeightScreen*>(screen))
             height->pickerViewTitleForRowForComponent(0, 0);  // the picker shows its rows
-        if (field) field->setText("abc");
+        if (field) field->setText("  72.5kg");
         bar(screen, true)->sendTouchUpInside();
     }
-    // Back to the same gender step, its mark as it was.
-    for (int back = 0; back < 2; ++back)
-        bar(app.nav()->topViewController(), false)->sendTouchUpInside();
-    auto* gender = app.top<GenderScreen>();
-    ASSERT_NE(gender, nullptr);
-    EXPECT_TRUE(gender->selectOne);
-    EXPECT_EQ(gender->check2()->imageName(), "check");
-    // Back once more and forward: a new gender step, nothing marked, although the answer stays.
-    gender->previousButton();
-    app.top<GoalWeightScreen>()->nextButton();
-    auto* again = app.top<GenderScreen>();
-    ASSERT_NE(again, nullptr);
-    EXPECT_FALSE(again->selectOne);
-    EXPECT_EQ(again->check1()->imageName(), "uncheck");
-    EXPECT_EQ(AppState::shared().genderValue, 1);
-    again->nextButton();
-    ASSERT_NE(app.alert(), nullptr);
-    EXPECT_EQ(app.alert()->message(), "Select Gender");
-    EXPECT_EQ(app.top<GenderScreen>(), again);
+    EXPECT_EQ(AppState::shared().goalWeightValue, 72.5f);
+    bar(app.nav()->topViewController(), false)->sendTouchUpInside();
+    EXPECT_NE(app.top<HeightScreen>(), nullptr);
+    EXPECT_EQ(app.nav()->viewControllers().size(), 5);
 }
 
-TEST(ChoiceSteps, Tag0IsTheFirstAnswerAnyOtherTheSecondAndTheLastCounts) {
+TEST(ChoiceSteps, NothingIsMarkedAtFirstThenTag0IsTheFirstAnswerAnyOtherTheSecond) {
     WizardApp app;
     LogCapture log;
     auto* unit = app.start<MeasureUnitScreen>();
     auto* gender = new GenderScreen;
+    EXPECT_FALSE(app.nav()->navigationItem()->hidesBackButton());
     app.nav()->pushViewController(gender, false);
+    EXPECT_TRUE(app.nav()->navigationItem()->hidesBackButton());
     EXPECT_EQ(gender->maleLbl()->text() + gender->femaleLbl()->text(), "MaleFemale");
+    for (ChoiceScreen* screen : std::initializer_list<ChoiceScreen*>{unit, gender}) {
+        EXPECT_FALSE(screen->selectOne);
+        EXPECT_EQ(screen->check1()->imageName() + screen->check2()->imageName(), "uncheckuncheck");
+    }
     for (int tag : {7, 0}) {
         Button choice;
         choice.setTag(tag);
@@ -103,24 +102,4 @@ TEST(ChoiceSteps, Tag0IsTheFirstAnswerAnyOtherTheSecondAndTheLastCounts) {
     }
     // The gender step logs the unit words too.
     EXPECT_EQ(log.lines(), (std::vector<std::string>{"Imperial", "Imperial", "Metric", "Metric"}));
-}
-
-TEST(WeightSteps, AskInTheChosenUnitAndTakeTheGoalsLeadingNumber) {
-    WizardApp app;
-    const struct {
-        const char *unit, *word, *text;
-        float goal;
-    } cases[] = {{"Metric", "Kilograms", "  72.5kg", 72.5f},  // the untrimmed text's number
-                 {"Imperial", "Pounds", "-5", -5.0f},         // no range
-                 {"", "Pounds", "abc", 0.0f}};                // and no number needed
-    for (const auto& c : cases) {
-        AppState::shared().measureUnit = c.unit;
-        auto* goal = app.start<GoalWeightScreen>();
-        EXPECT_EQ(goal->enterGWtTxt()->placeholder(), c.word);
-        EXPECT_EQ(goal->wtLbl()->text(), c.word);
-        goal->enterGWtTxt()->setText(c.text);
-        goal->nextButton();
-        EXPECT_NE(app.top<GenderScreen>(), nullptr) << c.text;
-        EXPECT_EQ(AppState::shared().goalWeightValue, c.goal) << c.text;
-    }
 }

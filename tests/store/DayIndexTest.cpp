@@ -9,81 +9,59 @@ using namespace std::chrono_literals;
 
 namespace {
 
-class DayIndexTest : public testing::Test {
-protected:
-    void startAt(Instant start, std::string budget = "1850") {
-        state.profileRows = {{budget, standardDescription(start)}};
+const Instant kNow = utc("2026-11-20 12:00:00");
+
+TEST(DayIndexTest, CountsWholeDaysSinceAPastStartAndTakesTheBudgetsLeadingInteger) {
+    for (const auto& [ago, days] : {std::pair(36h, 1), std::pair(23h, 0)}) {
+        AppState state;
+        state.todayIndex = state.dayIndex = 7;
+        state.profileRows = {{"1850.5", standardDescription(kNow - ago)}};
+        LogCapture log;
+        computeDayIndex(state, kNow);
+        EXPECT_EQ(std::tuple(state.todayIndex, state.dayIndex, state.calorieBudgetValue),
+                  std::tuple(days, days, 1850));
+        EXPECT_TRUE(log.contains("counterValue 1850"));
+        EXPECT_TRUE(log.contains("2026-11-20 12:00:00 +0000 current   Start " +
+                                 standardDescription(kNow - ago)));
+        EXPECT_TRUE(log.contains("start is earlier than current"));
+        EXPECT_TRUE(log.contains(std::to_string(days)));
+        EXPECT_TRUE(log.contains(std::to_string(days) + " " + std::to_string(days)));
     }
-    AppState state;
-    const Instant now = utc("2026-11-20 12:00:00");
-};
-
-TEST_F(DayIndexTest, CountsWholeDaysSinceTheStart) {
-    startAt(now - 36h);
-    LogCapture log;
-    computeDayIndex(state, now);
-    EXPECT_EQ(state.todayIndex, 1);
-    EXPECT_EQ(state.dayIndex, 1);
-    EXPECT_EQ(state.calorieBudgetValue, 1850);
-    EXPECT_TRUE(log.contains("counterValue 1850"));
-    EXPECT_TRUE(log.contains("2026-11-20 12:00:00 +0000 current   Start 2026-11-19 00:00:00 +0000"));
-    EXPECT_TRUE(log.contains("1 1"));
 }
 
-TEST_F(DayIndexTest, LessThanADayAgoIsDayZero) {
-    state.todayIndex = state.dayIndex = 7;
-    startAt(now - 23h);
-    LogCapture log;
-    computeDayIndex(state, now);
-    EXPECT_TRUE(log.contains("start is earlier than current"));
-    EXPECT_TRUE(log.contains("0"));
-    EXPECT_EQ(state.todayIndex, 0);
-    EXPECT_EQ(state.dayIndex, 0);
-}
-
-TEST_F(DayIndexTest, FutureOrUnreadableStartsLeaveTheIndexes) {
-    state.todayIndex = state.dayIndex = 3;
-    // Years an Instant cannot count are no date either, in the past as in the future.
-    for (const std::string& start :
-         {standardDescription(now + 1h), std::string("soon"), std::string(),
-          std::string("1600-01-01 00:00:00 +0000"), std::string("2263-01-01 00:00:00 +0000")}) {
+TEST(DayIndexTest, FutureOrUnreadableStartsLeaveTheIndexes) {
+    // Years an Instant cannot count are no date either (the start pattern's own test).
+    for (const std::string& start : {standardDescription(kNow + 1h), std::string("soon"),
+                                     std::string("2263-01-01 00:00:00 +0000")}) {
+        AppState state;
+        state.todayIndex = state.dayIndex = 3;
         state.profileRows = {{"2400", start}};
         LogCapture log;
-        computeDayIndex(state, now);
-        EXPECT_EQ(state.todayIndex, 3) << start;
-        EXPECT_EQ(state.dayIndex, 3) << start;
+        computeDayIndex(state, kNow);
+        EXPECT_EQ(std::tuple(state.todayIndex, state.dayIndex), std::tuple(3, 3)) << start;
         EXPECT_FALSE(log.contains("start is earlier than current"));
-        EXPECT_EQ(log.contains("dates are the same"), start != standardDescription(now + 1h));
+        EXPECT_EQ(log.contains("dates are the same"), start != standardDescription(kNow + 1h));
     }
-}
-
-TEST_F(DayIndexTest, BudgetIsTheLeadingInteger) {
-    startAt(now, "1850.5");
-    computeDayIndex(state, now);
-    EXPECT_EQ(state.calorieBudgetValue, 1850);
-    startAt(now, "none");
-    computeDayIndex(state, now);
-    EXPECT_EQ(state.calorieBudgetValue, 0);
 }
 
 // Whatever the device's calendar and digits, the set-up's start date is read back as written.
-TEST_F(DayIndexTest, TheStartDateReadsBackInEveryLocaleAndZone) {
+TEST(DayIndexTest, TheStartDateReadsBackInEveryLocaleAndZone) {
     const icu::Locale device = icu::Locale::getDefault();
     int32_t count = 0;
     const icu::Locale* locales = icu::Locale::getAvailableLocales(count);
     ASSERT_GT(count, 500);
     std::vector<std::string> wrong;
+    AppState state;
     for (const char* zone :
          {"UTC", "Asia/Kolkata", "America/St_Johns", "Pacific/Chatham", "America/Los_Angeles"}) {
         ScopedTimeZone scoped(zone);
         // 40 days and 3 hours: a clock change on the way cannot make it another whole day.
-        const std::string written = standardDescription(now - 24h * 40 - 3h);
+        state.profileRows = {{"1850", standardDescription(kNow - 24h * 40 - 3h)}};
         for (int32_t i = 0; i < count; ++i) {
             UErrorCode status = U_ZERO_ERROR;
             icu::Locale::setDefault(locales[i], status);
-            state.profileRows = {{"1850", written}};
-            state.todayIndex = state.dayIndex = -1;
-            computeDayIndex(state, now);
+            state.todayIndex = -1;
+            computeDayIndex(state, kNow);
             if (state.todayIndex != 40)
                 wrong.push_back(std::string(locales[i].getName()) + " " + zone);
         }

@@ -46,9 +46,7 @@ std::string noise(size_t size) {
 }
 
 void overwrite(const std::filesystem::path& path, std::streamoff at, const std::string& bytes) {
-    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(at);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::fstream(path, std::ios::in | std::ios::out | std::ios::binary).seekp(at) << bytes;
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "FileFaults.h"
+#include "store/DeadEnd.h"
 #include "store/PlanCheck.h"
+#include "store/PlanFinish.h"
 #include "support/Fixtures.h"
 
 using namespace std::chrono_literals;
@@ -30,20 +32,21 @@ TEST(PlanCheckTest, NamesWhatIsWrongWithEachKindOfFileAndChangesNone) {
          "the set-up was interrupted before the plan's days were stored"},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(describe(c.damage));
         TempDir dir;
         const std::string path = makePlan(dir.file("food.db"));
         damage(path, c.damage);
         const auto before = snapshot(dir.path());
         const PlanCheck check = checkPlan(path);
-        EXPECT_EQ(check.fault, c.fault) << describe(c.damage) << ": " << check.text();
+        EXPECT_EQ(check.fault, c.fault) << check.text();
         std::string text = c.text;
         if (const size_t at = text.find('@'); at != std::string::npos) text.replace(at, 1, path);
-        EXPECT_EQ(check.text().substr(0, text.size()), text) << describe(c.damage);
-        EXPECT_EQ(snapshot(dir.path()), before) << describe(c.damage);
+        EXPECT_EQ(check.text().substr(0, text.size()), text);
+        EXPECT_EQ(snapshot(dir.path()), before);
     }
 }
 
-TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamed) {
+TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamedAndAReaderIsNot) {
     TempDir dir;
     const std::string path = makePlan(dir.file("food.db"));
     {
@@ -53,7 +56,6 @@ TEST(PlanCheckTest, AnotherProgramsWriteLockIsWaitedForThenNamed) {
         EXPECT_GE(std::chrono::steady_clock::now() - started, 300ms);
         EXPECT_EQ(check.text(), "another program holds " + path);
     }
-    // A reader does not stand in the way.
     const HeldLock reader(path, "BEGIN; SELECT count(*) FROM food;");
     EXPECT_TRUE(checkPlan(path, 300ms).ok());
 }
@@ -68,8 +70,7 @@ TEST(PlanCheckTest, AGoodPlanGivesTheFactsForTheMessages) {
     const PlanCheck check = checkPlan(path);
     ASSERT_TRUE(check.ok()) << check.text();
     EXPECT_EQ(check.facts.start, kPlanStart);
-    EXPECT_EQ(check.facts.days, 366);
-    EXPECT_EQ(check.facts.budget, 2100);
+    EXPECT_EQ(std::tuple(check.facts.days, check.facts.budget), std::tuple(366, 2100));
 }
 
 TEST(PlanCheckTest, ThePlanEndsOnceTodayIsPastItsLastDay) {
@@ -112,6 +113,63 @@ TEST(PlanCheckTest, AWriteCutShortIsUndoneAndNotCalledDamage) {
     EXPECT_TRUE(check.ok()) << check.text();
     EXPECT_EQ(check.facts.days, 366);
     EXPECT_EQ(queryJoined(path, "SELECT count(*) FROM food WHERE calories = -1"), "0");
+}
+
+// The missing day rows come out as the set-up writes them: from the stored start, or from now
+// when that does not parse; a finished plan gets none.
+TEST(PlanFinishTest, AnInterruptedSetUpsDaysAreWrittenAsTheSetUpWouldHave) {
+    constexpr const char* kDays =
+        "SELECT group_concat(id || date || calorieConsumed) FROM dailyData";
+    TempDir dir;
+    const std::string whole = makePlan(dir.file("whole.db"));
+    const std::string cut = makePlan(dir.file("cut.db"), 10);
+    EXPECT_EQ(finishPlan(cut, kPlanStart + 24h * 40), "");
+    EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
+    EXPECT_EQ(finishPlan(cut, kPlanStart + 24h * 40), "");
+    EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
+    execSql(cut,
+            "DELETE FROM dailyData WHERE id >= 200;"
+            "UPDATE profileData SET startingDate = 'soon' WHERE id = 2");
+    EXPECT_EQ(finishPlan(cut, kPlanStart), "");
+    EXPECT_EQ(queryJoined(cut, kDays), queryJoined(whole, kDays));
+}
+
+// The start's verdict names what happened and offers only the ways out that can work.
+TEST(DeadEndTest, EachCauseOffersTheWaysOutThatApply) {
+    TempDir dir;
+    const std::string db = makePlan(dir.file("food.db"));
+    const Instant today = kPlanStart + 24h * 10;
+    EXPECT_FALSE(findDeadEnd(dir.path(), today));
+
+    const auto ways = [&](Instant now, bool missing = false) {
+        const auto end = findDeadEnd(dir.path(), now, missing);
+        if (!end) return std::string("none");
+        std::string found = end->cause + ":";
+        for (const bool way :
+             {end->canExport, end->canRestore, end->setUpInterrupted, end->canStartNew})
+            found += way ? '1' : '0';
+        return found;
+    };
+    EXPECT_EQ(ways(kPlanStart + 24h * 366),
+              "the plan in " + db + " ended on 2026-11-14 (today is day 367 of 366):1001");
+    EXPECT_EQ(ways(today, true),
+              "the plan's file " + db + " is missing: it was deleted or moved:1001");
+    std::filesystem::create_directories(dir.path() / "backups");
+    std::filesystem::copy_file(db, dir.path() / "backups" / "food-2025-11-20.db");
+    {
+        const HeldLock lock(db, "BEGIN EXCLUSIVE");
+        const auto held = findDeadEnd(dir.path(), today);  // after the lock wait
+        ASSERT_TRUE(held);
+        EXPECT_EQ(
+            held->forTerminal(),
+            "the plan in " + db + " cannot be opened: another program holds " + db +
+                ".\n"
+                "  calorie-counter --restore latest    puts back the newest automatic backup\n"
+                "  Close the program that holds it, then start again.");
+    }
+    damage(db, Damage::noDays);
+    EXPECT_EQ(ways(today), "the set-up of the plan in " + db +
+                               " was interrupted before its days were stored:0111");
 }
 
 }  // namespace

@@ -11,30 +11,27 @@
 
 namespace {
 
-using Rows = std::vector<std::vector<std::string>>;
+using Row = std::vector<std::string>;
+using Rows = std::vector<Row>;
 
 // RFC 4180 as a spreadsheet reads it: quoted fields may hold commas, doubled quotes and line
 // breaks; records end with CRLF. A bare LF outside quotes fails the parse.
 std::optional<Rows> parseCsv(const std::string& text) {
-    Rows rows(1, std::vector<std::string>(1));
+    Rows rows(1, Row(1));
     bool quoted = false;
     for (size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
+        const char c = text[i], next = i + 1 < text.size() ? text[i + 1] : '\0';
         std::string& field = rows.back().back();
-        if (quoted) {
-            if (c != '"') {
-                field += c;
-            } else if (i + 1 < text.size() && text[i + 1] == '"') {
-                field += '"';
-                ++i;
-            } else {
-                quoted = false;
-            }
-        } else if (c == '"' && field.empty()) {
-            quoted = true;
+        if (quoted && c == '"' && next == '"') {
+            field += c;
+            ++i;
+        } else if (c == '"' && (quoted || field.empty())) {
+            quoted = !quoted;
+        } else if (quoted) {
+            field += c;
         } else if (c == ',') {
             rows.back().emplace_back();
-        } else if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+        } else if (c == '\r' && next == '\n') {
             rows.emplace_back(1);
             ++i;
         } else if (c == '\n' || c == '\r' || c == '"') {
@@ -43,7 +40,7 @@ std::optional<Rows> parseCsv(const std::string& text) {
             field += c;
         }
     }
-    if (quoted || rows.back() != std::vector<std::string>(1)) return std::nullopt;  // no last CRLF
+    if (quoted || rows.back() != Row(1)) return std::nullopt;  // no last CRLF
     rows.pop_back();
     return rows;
 }
@@ -73,27 +70,22 @@ TEST_F(PlanExportTest, EveryDayComesOutWholeWhateverItsLabelHolds) {
             " calorieConsumed = 900 WHERE id = 1;");
     const Rows rows = exported();
     ASSERT_EQ(rows.size(), 367u);
-    EXPECT_EQ(rows[0], (std::vector<std::string>{"day", "date", "label", "consumed", "burned",
-                                                 "budget", "remaining"}));
-    EXPECT_EQ(rows[1], (std::vector<std::string>{"1", "2025-11-13", "Fri, 14 \"Nov\"", "2300",
-                                                 "120", "1850", "-450"}));
-    EXPECT_EQ(rows[2], (std::vector<std::string>{"2", "2025-11-14", "two\r\nlines\né", "900", "0",
-                                                 "1850", "950"}));
-    EXPECT_EQ(rows[366][0], "366");
-    EXPECT_EQ(rows[366][1], "2026-11-13");
-    EXPECT_EQ(rows[366][2], queryJoined(database, "SELECT date FROM dailyData WHERE id = 365"));
+    EXPECT_EQ(rows[0], (Row{"day", "date", "label", "consumed", "burned", "budget", "remaining"}));
+    EXPECT_EQ(rows[1], (Row{"1", "2025-11-13", "Fri, 14 \"Nov\"", "2300", "120", "1850", "-450"}));
+    EXPECT_EQ(rows[2], (Row{"2", "2025-11-14", "two\r\nlines\né", "900", "0", "1850", "950"}));
+    EXPECT_EQ(rows[366], (Row{"366", "2026-11-13",
+                              queryJoined(database, "SELECT date FROM dailyData WHERE id = 365"),
+                              "0", "0", "1850", "1850"}));
 }
 
 TEST_F(PlanExportTest, ExportsWhateverPlanTheFileHolds) {
     execSql(database,
             "UPDATE profileData SET startingDate = 'soon' WHERE id = 2;"
             "UPDATE dailyData SET calorieConsumed = 50 WHERE id = 3;");
-    EXPECT_EQ(exported()[4],
-              (std::vector<std::string>{"4", "", "Monday November 17", "50", "0", "1850", "1800"}));
+    EXPECT_EQ(exported()[4], (Row{"4", "", "Monday November 17", "50", "0", "1850", "1800"}));
 
     damage(database, Damage::noProfile);
-    EXPECT_EQ(exported()[4],
-              (std::vector<std::string>{"4", "", "Monday November 17", "50", "0", "", ""}));
+    EXPECT_EQ(exported()[4], (Row{"4", "", "Monday November 17", "50", "0", "", ""}));
     damage(database, Damage::noDays);
     EXPECT_EQ(exported().size(), 1u);
 }
@@ -109,10 +101,8 @@ TEST_F(PlanExportTest, AFailedExportSaysWhyAndLeavesNothingHalfWritten) {
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit small{4096, 4096};
         setrlimit(RLIMIT_FSIZE, &small);
-        return exportPlan(database, csv).error ==
-                       "the file has grown past the size this system allows"
-                   ? 0
-                   : 1;
+        const std::string error = exportPlan(database, csv).error;
+        return error == "the file has grown past the size this system allows" ? 0 : 1;
     });
     EXPECT_EQ(status, 0);
     EXPECT_EQ(snapshot(dir.path()), before);

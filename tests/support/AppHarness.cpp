@@ -1,7 +1,9 @@
 #include "support/AppHarness.h"
 
 #include <QAccessible>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSettings>
@@ -74,7 +76,16 @@ void AppHarness::launch() {
 }
 
 void AppHarness::settle(int ms) {
-    QTest::qWait(ms);
+    // Whatever moves keeps the window drawing: it has settled once no frame has come for a few
+    // frame times, or after ms at the latest.
+    QElapsedTimer quiet;
+    quiet.start();
+    const QMetaObject::Connection frames =
+        QObject::connect(quickWindow(), &QQuickWindow::frameSwapped, [&quiet] { quiet.restart(); });
+    const QDeadlineTimer deadline(std::max(ms, 0));
+    QTest::qWait(std::min(ms, 20));
+    while (quiet.elapsed() < kQuietMs && !deadline.hasExpired()) QTest::qWait(10);
+    QObject::disconnect(frames);
 }
 
 QQuickItem* AppHarness::layoutOf(const QObject* screen) {

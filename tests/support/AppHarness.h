@@ -42,8 +42,10 @@ public:
     std::string databasePath() const { return dir_.file("food.db"); }
     QString defaultsFile() const { return dataDir() + "/defaults.ini"; }
 
-    // Lets animations and deferred work run.
+    // Lets animations and deferred work run: returns once the window has drawn nothing new for
+    // kQuietMs, or after ms at the latest.
     void settle(int ms = 450);
+    static constexpr int kQuietMs = 80;
 
     // The item whose accessible name is name (the first in tree order that is visible), or null.
     QQuickItem* findByName(const QString& name, int occurrence = 0);

@@ -2,8 +2,6 @@
 // warning: a broken layout is caught here before a person sees it.
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "app/tabs/MoreScreen.h"
 #include "dashboard/LogScreen.h"
 #include "dashboard/TodayScreen.h"
@@ -24,30 +22,10 @@
 
 namespace {
 
-using Factory = std::function<ViewController*()>;
-template <class Screen>
-Factory make() {
-    return [] { return new Screen; };
-}
-
-const std::map<QString, Factory>& screens() {
-    static const std::map<QString, Factory> all = {
-        {"MeasureUnitScreen", make<MeasureUnitScreen>()},
-        {"TodayScreen", make<TodayScreen>()},
-        {"LogScreen", make<LogScreen>()},
-        {"SearchFoodScreen", make<SearchFoodScreen>()},
-        {"CustomEntryScreen", make<CustomEntryScreen>()},
-        {"FoodScreen", make<FoodScreen>()},
-        {"ExerciseScreen", make<ExerciseScreen>()},
-        {"BrowseExerciseScreen", make<BrowseExerciseScreen>()},
-        {"MoreScreen", make<MoreScreen>()},
-        {"EnterWtScreen", make<EnterWtScreen>()},
-        {"GoalWeightScreen", make<GoalWeightScreen>()},
-        {"GenderScreen", make<GenderScreen>()},
-        {"HeightScreen", make<HeightScreen>()},
-        {"BirthdayScreen", make<BirthdayScreen>()},
-    };
-    return all;
+// One maker per screen type.
+template <class... Screens>
+std::vector<ViewController* (*)()> makers() {
+    return {+[]() -> ViewController* { return new Screens; }...};
 }
 
 QStringList qmlWarnings;
@@ -62,11 +40,15 @@ TEST(Layouts, LoadWithoutWarningsInBothIdioms) {
         AppHarness app({.pad = pad, .firstTime = QString("no")});
         app.launch();
         NavigationController* nav = AppState::shared().tabBarController->viewControllers()[0];
-        for (const auto& [name, factory] : screens()) {
-            const QString layout = name + (pad ? " on a pad" : "");
+        for (const auto make :
+             makers<BirthdayScreen, BrowseExerciseScreen, CustomEntryScreen, EnterWtScreen,
+                    ExerciseScreen, FoodScreen, GenderScreen, GoalWeightScreen, HeightScreen,
+                    LogScreen, MeasureUnitScreen, MoreScreen, SearchFoodScreen, TodayScreen>()) {
             qmlWarnings.clear();
             const auto previous = qInstallMessageHandler(collect);
-            ViewController* screen = factory();
+            ViewController* screen = make();
+            const QString layout =
+                screen->metaObject()->className() + QString(pad ? " on a pad" : "");
             nav->pushViewController(screen, false);
             app.settle(30);
             EXPECT_NE(app.layoutOf(screen), nullptr)

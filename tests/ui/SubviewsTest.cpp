@@ -21,18 +21,17 @@ QObject* objectAt(const QAbstractItemModel& model, int row) {
     return model.data(model.index(row, 0), ObjectListModel::ObjectRole).value<QObject*>();
 }
 
+// The rows [first, last] of the one insertion or removal announced last.
+std::pair<int, int> lastRows(const QSignalSpy& spy) {
+    return {spy.last().at(1).toInt(), spy.last().at(2).toInt()};
+}
+
 struct Announcements {
     explicit Announcements(QAbstractItemModel* model)
         : inserted(model, &QAbstractItemModel::rowsInserted),
           removed(model, &QAbstractItemModel::rowsRemoved),
           reset(model, &QAbstractItemModel::modelReset) {}
-    // The rows [first, last] of the one insertion or removal announced last.
-    static std::pair<int, int> rows(const QSignalSpy& spy) {
-        return {spy.last().at(1).toInt(), spy.last().at(2).toInt()};
-    }
-    QSignalSpy inserted;
-    QSignalSpy removed;
-    QSignalSpy reset;
+    QSignalSpy inserted, removed, reset;
 };
 
 }  // namespace
@@ -44,10 +43,10 @@ TEST(ObjectList, AnnouncesEachSingleInsertionAndRemoval) {
     QObject a, b, c;
     for (QObject* o : {&a, &b, &c}) list.append(o);
     EXPECT_EQ(said.inserted.count(), 3);
-    EXPECT_EQ(Announcements::rows(said.inserted), std::make_pair(2, 2));
+    EXPECT_EQ(lastRows(said.inserted), std::make_pair(2, 2));
 
     EXPECT_TRUE(list.remove(&b));
-    EXPECT_EQ(Announcements::rows(said.removed), std::make_pair(1, 1));
+    EXPECT_EQ(lastRows(said.removed), std::make_pair(1, 1));
     EXPECT_FALSE(list.remove(&b));  // not there: nothing to announce
     EXPECT_EQ(said.removed.count(), 1);
     EXPECT_EQ(said.reset.count(), 0);
@@ -67,15 +66,15 @@ TEST(LiveRows, PassChangesThroughAfterTheRetiredAndRestartWhenARetiredOneGoes) {
     QSignalSpy restarted(&live, &LiveRowsModel::restarted);
 
     live.retire(4);
-    EXPECT_EQ(Announcements::rows(said.removed), std::make_pair(0, 3));
+    EXPECT_EQ(lastRows(said.removed), std::make_pair(0, 3));
     EXPECT_EQ(live.rowCount(), 2);
     EXPECT_EQ(objectAt(live, 0), &objects[4]);
 
     QObject added;
     list.append(&added);
-    EXPECT_EQ(Announcements::rows(said.inserted), std::make_pair(2, 2));
+    EXPECT_EQ(lastRows(said.inserted), std::make_pair(2, 2));
     list.remove(&objects[5]);
-    EXPECT_EQ(Announcements::rows(said.removed), std::make_pair(1, 1));
+    EXPECT_EQ(lastRows(said.removed), std::make_pair(1, 1));
     EXPECT_EQ(objectAt(live, 1), &added);
     EXPECT_EQ(said.reset.count(), 0);
     EXPECT_EQ(restarted.count(), 0);
@@ -117,33 +116,33 @@ TEST(Subviews, AFlattenedPileLooksLikeTheLiveOne) {
     auto* flattened = window->property("flattened").value<QQuickItem*>();
     auto* live = window->property("live").value<QQuickItem*>();
 
-    ShapeLayer* bar = nullptr;
+    View* bar = nullptr;
     QList<QObject*> piled;
+    const auto add = [&](View* v) {
+        view.addSubview(v);
+        return v;
+    };
+    const auto shape = [&](QPointF from, QPointF to, QColor colour, qreal width) {
+        auto* s = new ShapeLayer;
+        s->setLine(from, to);
+        s->setStrokeColor(colour);
+        s->setLineWidth(width);
+        return add(s);
+    };
     const auto label = [&](qreal x, const QString& text) {
         auto* l = new Label;
         l->setFrame(QRectF(x, 49, 57, 17));
         l->setFontName("HelveticaNeue-Thin");
         l->setFontSize(10);
         l->setText(text);
-        view.addSubview(l);
-        piled << l;
+        return add(l);
     };
     const auto shapes = [&](int rounds) {
         for (int i = 0; i < rounds; ++i) {
             if (bar) view.removeSubview(bar);
-            bar = new ShapeLayer;
-            bar->setLine(QPointF(0, 36), QPointF(130.6 + i % 3, 36));
-            bar->setStrokeColor(QColor(46, 139, 87));
-            bar->setLineWidth(38);
-            view.addSubview(bar);
-            auto* line = new ShapeLayer;
-            line->setLine(QPointF(97.33, 14), QPointF(97.33, 63));
-            line->setStrokeColor(QColor(218, 165, 32));
-            line->setLineWidth(2);
-            view.addSubview(line);
-            piled << line;
-            label(58.33, "Budget");
-            label(102.33, "1850");
+            bar = shape(QPointF(0, 36), QPointF(130.6 + i % 3, 36), QColor(46, 139, 87), 38);
+            piled << shape(QPointF(97.33, 14), QPointF(97.33, 63), QColor(218, 165, 32), 2)
+                  << label(58.33, "Budget") << label(102.33, "1850");
         }
     };
     const auto halvesAlike = [&] {

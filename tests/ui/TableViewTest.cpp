@@ -36,8 +36,7 @@ public:
 
     TableView& table_;
     std::vector<int64_t> sizes;
-    int made = 0;
-    int headersAsked = 0;
+    int made = 0, headersAsked = 0;
     std::vector<IndexPath> selected;
 };
 
@@ -88,8 +87,7 @@ TEST(TableView, SelectionChangesOneRowAndReloadRenewsAll) {
     EXPECT_EQ(source.selected, std::vector<IndexPath>{(IndexPath{1, 1})});
     EXPECT_TRUE(table.rows()->data(table.rows()->index(3), TableRows::SelectedRole).toBool());
     table.deselectRowAtIndexPath({1, 1}, true);
-    EXPECT_TRUE(table.deselectionAnimated());
-    EXPECT_FALSE(table.indexPathForSelectedRow());
+    EXPECT_TRUE(table.deselectionAnimated() && !table.indexPathForSelectedRow());
     EXPECT_EQ(changes.size(), 2);
 
     QPointer<View> header(table.headerViewForSection(1));

@@ -12,6 +12,6 @@ void MoreScreen::viewDidLoad() {
     lb1_.setTextAlignment(3);  // justified
     mainscrol_.setAutomaticallyAdjustsInsets(false);
     // The texts' height and the "Your data" section's below them.
-    mainscrol_.setContentSize(QSizeF(320, 690 + 170));
+    mainscrol_.setContentSize(QSizeF(320, 690 + 200));
     AppState::shared().defaults = Application::delegate()->standardUserDefaults();
 }

@@ -24,8 +24,8 @@ QtObject {
         + "and takes the same amount off the calories eaten, so the calories left grow with it."
     readonly property string data:
         "Your data stays on this device, in one file (food.db) in the app's private data folder, "
-        + "with one setting beside it. Nothing is sent anywhere: there is no account and no "
-        + "network.\n\n"
+        + "with one setting beside it and a backup of each of the last seven days you opened the "
+        + "app in backups/. Nothing is sent anywhere: there is no account and no network.\n\n"
         + "Food data: USDA National Nutrient Database for Standard Reference, Release 24 (SR24), "
         + "in the public domain. Calories are given for each food's first household portion."
 }
