@@ -1,6 +1,8 @@
-// The status overlay's box: its size around the text, and how long a timed message stays.
+// The status overlay's box: its size around the text, where it stands, and how long a timed
+// message stays.
 #include <gtest/gtest.h>
 
+#include <numbers>
 #include <optional>
 
 #include "overlay/OverlayLayout.h"
@@ -20,6 +22,27 @@ TEST(OverlayLayout, BoxSizeFollowsTheText) {
         const BoxLayout layout = boxLayout(c.text);
         EXPECT_EQ(std::tuple(layout.box, layout.label, layout.centre),
                   std::tuple(c.box, c.label, c.centre));
+    }
+}
+
+// Centred above the keyboard on the side the user sees as up; the keyboard's frame comes in
+// portrait coordinates, so only the portrait orientations read its height.
+TEST(OverlayLayout, RotationPlacementAndKeyboardPerOrientation) {
+    constexpr float pi = std::numbers::pi_v<float>;
+    const Size keyboard{162, 216};
+    struct Case { Orientation orientation; float angle, keyboardHeight; Point centre; };
+    for (const Case& c : {Case{Orientation::Portrait, 0, 216, {160, 132}},
+                          Case{Orientation::UpsideDown, pi, 216, {160, 348}},
+                          Case{Orientation::LandscapeRight, pi / 2, 162, {241, 240}},
+                          Case{Orientation::LandscapeLeft, -pi / 2, 162, {79, 240}},
+                          Case{static_cast<Orientation>(5), 0, 162, {160, 159}}}) {
+        SCOPED_TRACE(static_cast<int>(c.orientation));
+        EXPECT_FLOAT_EQ(rotationAngle(c.orientation), c.angle);
+        EXPECT_EQ(boxCentre(c.orientation, Size{320, 480}, c.keyboardHeight), c.centre);
+        for (const KeyboardEvent shown : {KeyboardEvent::WillShow, KeyboardEvent::DidShow})
+            EXPECT_EQ(keyboardHeight(shown, keyboard, c.orientation), c.keyboardHeight);
+        for (const KeyboardEvent hidden : {KeyboardEvent::WillHide, KeyboardEvent::DidHide})
+            EXPECT_EQ(keyboardHeight(hidden, keyboard, c.orientation), 0);
     }
 }
 
