@@ -3,13 +3,19 @@
 // file whole, and where it cannot go on it ends with the reason and a non-zero status.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QPointer>
 #include <QProcess>
+#include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 #include <functional>
 
+#include "app/EndMessage.h"
 #include "support/Fixtures.h"
 
 using namespace std::chrono_literals;
@@ -201,6 +207,52 @@ TEST(Program, WhileACopyRunsOnlyReadingItsDataFolderGoesAhead) {
     first->kill();
     first->waitForFinished(kDeadlineMs);
     EXPECT_FALSE(startRunsTheSetUp(folder.path));
+}
+
+// Every accessible name under node, and the first button named `press`.
+void collect(QAccessibleInterface* node, QStringList& names, QAccessibleInterface*& button,
+             const QString& press) {
+    if (!node) return;
+    const QString name = node->text(QAccessible::Name);
+    if (!name.isEmpty()) names << name;
+    if (name == press && node->role() == QAccessible::Button && !button) button = node;
+    for (int i = 0; i < node->childCount(); ++i) collect(node->child(i), names, button, press);
+}
+
+// The window a person reads when the program cannot go on: the reason as a sentence, there until
+// its Quit button is pressed (as a screen reader presses it) or Escape is.
+TEST(EndMessageWindow, ShowsTheReasonUntilThePersonQuitsByButtonOrKey) {
+    for (const bool byKey : {false, true}) {
+        QStringList names;
+        QPointer<QQuickWindow> shown;
+        bool pressed = false;
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            for (QWindow* window : QGuiApplication::topLevelWindows()) {
+                auto* quick = qobject_cast<QQuickWindow*>(window);
+                QAccessibleInterface* quit = nullptr;
+                if (pressed || !quick || !quick->isVisible()) continue;
+                collect(QAccessible::queryAccessibleInterface(quick), names, quit, "Quit");
+                if (!quit) continue;  // not laid out yet
+                shown = quick, pressed = true;
+                if (byKey)
+                    QTest::keyClick(quick, Qt::Key_Escape);
+                else
+                    quit->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            }
+        });
+        poll.start(50);
+        bool timedOut = false;  // should it never close, the test fails rather than hangs
+        QTimer::singleShot(10000, [&] {
+            timedOut = true;
+            for (QWindow* window : QGuiApplication::topLevelWindows()) window->close();
+        });
+        showEndMessageWindow("the plan in /data/food.db has no profile record");
+        EXPECT_TRUE(pressed && !timedOut);
+        EXPECT_TRUE(!shown || !shown->isVisible());  // closed: gone, or hidden
+        EXPECT_TRUE(names.contains("Calorie Counter cannot go on")) << names.join('|').toStdString();
+        EXPECT_TRUE(names.contains("The plan in /data/food.db has no profile record."));
+    }
 }
 
 }  // namespace

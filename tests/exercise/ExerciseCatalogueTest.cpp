@@ -65,6 +65,9 @@ TEST(IndexBar, LetterUnderATouchRoundsToFloatAndNeedsAHeight) {
     EXPECT_EQ(letterAt(270, 10), 26);
     EXPECT_EQ(letterAt(0, 0), 26);
     EXPECT_EQ(letterAt(12, -10), 0);
+    // Above "#" nothing is there to fall back on; past "Z" the last letter holds.
+    EXPECT_EQ(sectionForLetter(-1, {"A"}), kNotFound);
+    EXPECT_EQ(sectionForLetter(40, {"B", "Z"}), 1);
 }
 
 // Minutes count the per-hour value's sixtieth without its remainder; where the arithmetic runs

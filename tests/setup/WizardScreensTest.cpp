@@ -24,6 +24,8 @@ TEST(WizardSteps, EachStepGoesOnOnlyWhenAnsweredAndPreviousGoesBack) {
     };
     const char* const missing[] = {"Select one measuring unit", "Enter Today's Weight",
                                    "Enter Goal Weight", "Select Gender", "Enter Height"};
+    // What a screen reader announces as each step comes up.
+    const char* const titles[] = {"Starting Weight", "Goal Weight", "Gender", "Height", "Birthday"};
     for (int i = 0; i < 5; ++i) {
         ViewController* screen = app.nav()->topViewController();
         SCOPED_TRACE(screen->metaObject()->className());
@@ -51,6 +53,7 @@ TEST(WizardSteps, EachStepGoesOnOnlyWhenAnsweredAndPreviousGoesBack) {
         if (field) field->setText("  72.5kg");
         press(true);
         EXPECT_EQ(app.nav()->viewControllers().size(), i + 2);
+        EXPECT_EQ(app.nav()->topViewController()->title(), titles[i]);
     }
     EXPECT_EQ(std::tuple(AppState::shared().goalWeightValue, AppState::shared().genderValue),
               std::tuple(72.5f, 1));

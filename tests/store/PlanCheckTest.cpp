@@ -105,6 +105,8 @@ TEST(DeadEndTest, EachCauseOffersTheWaysOutThatApply) {
     execSql(db, "UPDATE profileData SET startingDate = '2025-11-14 09:30:00 GMT' WHERE id = 2");
     const Instant today = kPlanStart + 24h * 10;
     EXPECT_FALSE(findDeadEnd(dir.path(), today));
+    EXPECT_EQ(findDeadEnd(dir.path(), today, true).value().cause,
+              "the plan's file " + db + " is missing: it was deleted or moved");
 
     const auto ways = [&](Instant now) {
         const auto end = findDeadEnd(dir.path(), now);
