@@ -243,10 +243,13 @@ TEST(EndMessageWindow, ShowsTheReasonUntilThePersonQuitsByButtonOrKey) {
         });
         poll.start(50);
         bool timedOut = false;  // should it never close, the test fails rather than hangs
-        QTimer::singleShot(10000, [&] {
+        QTimer deadline;
+        deadline.setSingleShot(true);
+        QObject::connect(&deadline, &QTimer::timeout, [&] {
             timedOut = true;
             for (QWindow* window : QGuiApplication::topLevelWindows()) window->close();
         });
+        deadline.start(10000);
         showEndMessageWindow("the plan in /data/food.db has no profile record");
         EXPECT_TRUE(pressed && !timedOut);
         EXPECT_TRUE(!shown || !shown->isVisible());  // closed: gone, or hidden
