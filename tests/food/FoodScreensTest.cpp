@@ -47,7 +47,10 @@ TEST_F(FoodScreens, ASearchedNameHeldTwiceOpensWithItsFirstEntry) {
     state.foodUnits.push_back("1 bunch");
     auto* screen = new SearchFoodScreen;
     tab(0)->pushViewController(screen, false);
+    screen->searchBarOut()->userBeganEditing();
     screen->searchBarOut()->userChangedText("BANANAS, R");
+    screen->searchBarOut()->userPressedSearch();  // the keyboard goes, the results stay
+    EXPECT_FALSE(screen->searchBarOut()->firstResponder());
     ASSERT_EQ(screen->searchFoodTable()->numberOfRowsInSection(0), 2);
     screen->searchFoodTable()->userSelectedRow(1);
     auto* food = qobject_cast<FoodScreen*>(tab(0)->topViewController());

@@ -46,8 +46,15 @@ TEST(WizardSteps, EachStepGoesOnOnlyWhenAnsweredAndPreviousGoesBack) {
         // Answered as the layouts would; the goal is the untrimmed text's leading number.
         Button other;
         other.setTag(7);  // any tag but 0: the second answer
+        auto* choice = qobject_cast<ChoiceScreen*>(screen);
+        const auto ticks = [choice] {  // the check marks of a choice step, nothing ticked at first
+            return choice ? choice->check1()->imageName() + " " + choice->check2()->imageName()
+                          : QString();
+        };
+        EXPECT_EQ(ticks(), choice ? "uncheck uncheck" : "");
         if (auto* unit = qobject_cast<MeasureUnitScreen*>(screen)) unit->selectunit(&other);
         if (auto* gender = qobject_cast<GenderScreen*>(screen)) gender->genderBtn(&other);
+        EXPECT_EQ(ticks(), choice ? "uncheck check" : "");
         if (auto* height = qobject_cast<HeightScreen*>(screen))
             height->pickerViewTitleForRowForComponent(0, 0);  // the picker shows its rows
         if (field) field->setText("  72.5kg");

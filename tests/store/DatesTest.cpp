@@ -79,9 +79,12 @@ TEST(DayIndexDeathTest, WithoutAPlanOrADayRecordTheProgramEndsWithAMessage) {
     state.databasePath = "/data/food.db";
     EXPECT_EXIT(computeDayIndex(state, kNow), testing::ExitedWithCode(1),
                 "calorie-counter: the plan in /data/food.db has no profile record");
-    state.dailyRows.resize(8);
-    EXPECT_EXIT(dayRecord(state, 8), testing::ExitedWithCode(1),
-                "has no day record for day 9 of an 8-day plan");
+    for (const auto& [days, plan] : {std::pair(8, "an 8-day"), std::pair(11, "an 11-day"),
+                                     std::pair(18, "an 18-day"), std::pair(7, "a 7-day")}) {
+        state.dailyRows.resize(days);
+        EXPECT_EXIT(dayRecord(state, days), testing::ExitedWithCode(1),
+                    "has no day record for day " + std::to_string(days + 1) + " of " + plan);
+    }
 }
 
 }  // namespace

@@ -112,6 +112,29 @@ TEST(PlanBackupTest, AutomaticBackupsKeepOnePerDayTheNewestSevenAndNothingElseGo
     EXPECT_EQ(snapshot(backups), kept);
 }
 
+// What a restore cannot keep it does not replace; what belongs to the replaced file goes with it,
+// as a stale index beside the restored plan would be taken for its own.
+TEST(PlanBackupTest, ARestoreKeepsTheReplacedPlanWithItsSideFilesOrReplacesNothing) {
+    TempDir dir;
+    const std::string plan = makePlan(dir.file("plan.db"));
+    const std::filesystem::path data = dir.path() / "data", live = data / "food.db";
+    std::filesystem::create_directories(data);
+    makePlan(live);
+    execSql(live.string(), "UPDATE dailyData SET calorieConsumed = 5 WHERE id = 0");
+    const std::string before = bytesOf(live);
+    std::ofstream(data / "backups") << "a file where the folder goes";
+    const RestoreResult refused = restore(plan, data, kPlanStart);
+    EXPECT_TRUE(refused.error.starts_with("the current plan could not be kept: ")) << refused.error;
+    EXPECT_EQ(bytesOf(live), before);
+
+    std::filesystem::remove(data / "backups");
+    std::ofstream(live.string() + "-shm") << "a stale index";
+    const RestoreResult over = restore(plan, data, kPlanStart);
+    ASSERT_TRUE(over.ok()) << over.error;
+    EXPECT_EQ(bytesOf(over.kept.string() + "-shm"), "a stale index");
+    EXPECT_FALSE(std::filesystem::exists(live.string() + "-shm"));
+}
+
 class PlanExportTest : public testing::Test {
 protected:
     std::string exported(int days = 366) {
@@ -188,6 +211,7 @@ TEST_F(PlanExportTest, ABookingCommittedMidExportIsNotHalfIn) {
 TEST_F(PlanExportTest, AFailedExportSaysWhyAndLeavesNothingHalfWritten) {
     EXPECT_EQ(exportPlan(database, dir.file("gone/plan.csv")).error,
               "the folder " + dir.file("gone") + " does not exist");
+    EXPECT_EQ(exportPlan(database, dir.path()).error, dir.path().string() + " is a folder");
     std::ofstream(csv) << "an earlier export";
     const auto before = snapshot(dir.path());
     // The file-size limit stands in for a full disk: writes past it fail with EFBIG.
