@@ -47,10 +47,13 @@ TEST_F(FoodScreens, ASearchedNameHeldTwiceOpensWithItsFirstEntry) {
     state.foodUnits.push_back("1 bunch");
     auto* screen = new SearchFoodScreen;
     tab(0)->pushViewController(screen, false);
-    screen->searchBarOut()->userBeganEditing();
-    screen->searchBarOut()->userChangedText("BANANAS, R");
-    screen->searchBarOut()->userPressedSearch();  // the keyboard goes, the results stay
-    EXPECT_FALSE(screen->searchBarOut()->firstResponder());
+    SearchBar* bar = screen->searchBarOut();
+    for (const bool cancel : {true, false}) {  // either way the keyboard goes
+        bar->userBeganEditing();
+        bar->userChangedText("BANANAS, R");
+        cancel ? bar->userPressedCancel() : bar->userPressedSearch();
+        EXPECT_FALSE(bar->firstResponder());
+    }
     ASSERT_EQ(screen->searchFoodTable()->numberOfRowsInSection(0), 2);
     screen->searchFoodTable()->userSelectedRow(1);
     auto* food = qobject_cast<FoodScreen*>(tab(0)->topViewController());

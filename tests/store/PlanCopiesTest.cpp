@@ -135,6 +135,24 @@ TEST(PlanBackupTest, ARestoreKeepsTheReplacedPlanWithItsSideFilesOrReplacesNothi
     EXPECT_FALSE(std::filesystem::exists(live.string() + "-shm"));
 }
 
+// A copy that fails after the candidate passed its check refuses with the reason, never quietly:
+// here the copy in memory is held to one page, as when memory runs out.
+TEST(PlanBackupTest, ARestoreWhoseCopyFailsSaysWhyAndPutsNothingInPlace) {
+    TempDir dir;
+    const std::string plan = makePlan(dir.file("plan.db"));
+    const auto onePage = [](sqlite3* db, char**, const sqlite3_api_routines*) {
+        if (*sqlite3_db_filename(db, "main") == '\0')
+            sqlite3_exec(db, "PRAGMA max_page_count = 1", nullptr, nullptr, nullptr);
+        return SQLITE_OK;
+    };
+    const auto entry = reinterpret_cast<void (*)()>(+onePage);
+    sqlite3_auto_extension(entry);
+    const RestoreResult copied = restore(plan, dir.path() / "data", kPlanStart);
+    sqlite3_cancel_auto_extension(entry);
+    EXPECT_EQ(copied.error, "the file cannot be read: database or disk is full");
+    EXPECT_FALSE(std::filesystem::exists(dir.path() / "data" / "food.db"));
+}
+
 class PlanExportTest : public testing::Test {
 protected:
     std::string exported(int days = 366) {
