@@ -1,6 +1,5 @@
 #pragma once
-// What a fuzz target does when the code disagrees with its oracle: say so, and crash so that
-// libFuzzer keeps the input.
+// When the code disagrees with its oracle: say so, and crash so that libFuzzer keeps the input.
 
 #include <cstdio>
 #include <cstdlib>

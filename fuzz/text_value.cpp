@@ -1,23 +1,11 @@
 // The integer and float value of a text against the C library's reading of the same text.
-#include <climits>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <string>
-#include <string_view>
 
 #include "fuzz/Expect.h"
 #include "store/TextValue.h"
-
-namespace {
-
-// strtof also reads hexadecimal, "inf" and "nan", which a text's value does not: cut at the
-// first letter that can start one of those, after which strtof sees no decimal number either.
-std::string decimalOnly(std::string text) {
-    return text.substr(0, text.find_first_of("xXiInN"));
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
@@ -29,7 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const long long narrow = wide < INT32_MIN ? INT32_MIN : wide > INT32_MAX ? INT32_MAX : wide;
     expect(intValue(text) == narrow, "intValue", c);
 
-    const float expected = std::strtof(decimalOnly(c).c_str(), nullptr);
+    // strtof also reads hexadecimal, "inf" and "nan", which a text's value does not: cut at the
+    // first letter that can start one of those, after which strtof sees no decimal number either.
+    const float expected = std::strtof(c.substr(0, c.find_first_of("xXiInN")).c_str(), nullptr);
     const float got = floatValue(text);
     expect(std::memcmp(&got, &expected, sizeof got) == 0, "floatValue", c);
     return 0;

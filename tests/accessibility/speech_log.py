@@ -1,6 +1,5 @@
-"""A speech server for Orca that writes down what Orca says, a line per utterance, to the file
-named by ORCA_SPEECH_LOG, in place of a synthesizer the test machine does not have. Named in the
-test's Orca settings as its speech server factory."""
+"""Orca's speech server in the checks (atspi_check names it in Orca's settings): in place of a
+synthesizer the test machine lacks, it writes each utterance as a line to $ORCA_SPEECH_LOG."""
 import os
 
 from orca import speechserver

@@ -7,12 +7,11 @@
 #include "ui/TabBarController.h"
 
 // Selects the tab first, as a person is on it when choosing an activity.
-inline BrowseExerciseScreen* pushDuration(int tabIndex, const QString& name, const QString& perHour,
-                                          bool animated = false) {
-    AppState::shared().tabBarController->setSelectedIndex(tabIndex);
+inline BrowseExerciseScreen* pushDuration(int index, const QString& name, const QString& perHour) {
+    AppState::shared().tabBarController->setSelectedIndex(index);
     auto* screen = new BrowseExerciseScreen;
     screen->setItem(name);
     screen->setItem1(perHour);
-    tab(tabIndex)->pushViewController(screen, animated);
+    tab(index)->pushViewController(screen, false);
     return screen;
 }

@@ -1,5 +1,5 @@
-// The status overlay's box: its size around the text, its turn and place for each orientation
-// and keyboard, and how long a timed message stays.
+// The status overlay's box: its size around the text, where it stands, and how long a timed
+// message stays.
 #include <gtest/gtest.h>
 
 #include <numbers>
@@ -17,7 +17,6 @@ TEST(OverlayLayout, BoxSizeFollowsTheText) {
                           Case{Size{50, 20}, {100, 100}, {0, 66, 100, 20}, {50, 36}},
                           Case{Size{76, 20}, {100, 100}, {12, 66, 76, 20}, {50, 36}},
                           Case{Size{77, 20}, {101, 100}, {12, 66, 77, 20}, {50.5, 36}},
-                          Case{Size{200, 300}, {224, 380}, {12, 66, 200, 300}, {112, 36}},
                           Case{Size{500, 900}, {224, 380}, {12, 66, 200, 300}, {112, 36}}}) {
         SCOPED_TRACE(c.text ? c.text->width : -1);
         const BoxLayout layout = boxLayout(c.text);
@@ -49,7 +48,6 @@ TEST(OverlayLayout, RotationPlacementAndKeyboardPerOrientation) {
 
 TEST(OverlayLayout, HideDelayCountsUtf16Units) {
     EXPECT_DOUBLE_EQ(hideDelay(std::nullopt), 0.5);
-    EXPECT_DOUBLE_EQ(hideDelay(""), 0.5);
     EXPECT_DOUBLE_EQ(hideDelay("Saved meal"), 0.9);
     EXPECT_DOUBLE_EQ(hideDelay("\u00e9"), 0.54);         // two bytes, one unit
     EXPECT_DOUBLE_EQ(hideDelay("ok \U0001F44D"), 0.70);  // a surrogate pair counts two

@@ -45,11 +45,7 @@ public:
         return step;
     }
     NavigationController* nav() { return window_->rootViewController(); }
-    // The top screen if it is a Step, and the alert on show; else null.
-    template <class Step>
-    Step* top() {
-        return qobject_cast<Step*>(nav()->topViewController());
-    }
+    // The alert on show, or null.
     AlertView* alert() { return qobject_cast<AlertView*>(window_->presented().value(0)); }
 
     std::string databasePath() const { return dir_.file("food.db"); }

@@ -9,7 +9,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <random>
 
 #include "support/Fixtures.h"
 
@@ -28,31 +27,17 @@ std::string makePlan(const std::filesystem::path& path, int days) {
     return path.string();
 }
 
-const char* describe(Damage damage) {
-    constexpr const char* kNames[] = {"deleted",         "emptied",       "random bytes",
-                                      "cut short",       "header zeroed", "page scrambled",
-                                      "folder in place", "table dropped", "column dropped",
-                                      "no profile",      "no days"};
-    return kNames[static_cast<int>(damage)];
-}
-
-namespace {
-
-std::string noise(size_t size) {
-    std::mt19937 random(17);
-    std::string bytes(size, '\0');
-    for (char& byte : bytes) byte = static_cast<char>(random());
-    return bytes;
-}
-
-void overwrite(const std::filesystem::path& path, std::streamoff at, const std::string& bytes) {
-    std::fstream(path, std::ios::in | std::ios::out | std::ios::binary).seekp(at) << bytes;
-}
-
-}  // namespace
+// Bytes that are no part of a database, as a wrong file or a bad sector holds them.
+const std::string kJunk(8192, '\x5a');
 
 void damage(const std::filesystem::path& path, Damage damage) {
-    const std::string file = path.string();
+    static const std::map<Damage, const char*> kBySql = {
+        {Damage::tableDropped, "DROP TABLE dailyData"},
+        {Damage::columnDropped, "ALTER TABLE food DROP COLUMN unit"},
+        {Damage::noProfile, "DELETE FROM profileData WHERE id = 2"},
+        {Damage::noDays, "DELETE FROM dailyData WHERE id >= 0"},
+    };
+    if (kBySql.contains(damage)) return execSql(path.string(), kBySql.at(damage));
     switch (damage) {
         case Damage::deleted:
             std::filesystem::remove(path);
@@ -60,46 +45,33 @@ void damage(const std::filesystem::path& path, Damage damage) {
         case Damage::emptied:
             std::filesystem::resize_file(path, 0);
             break;
-        case Damage::randomBytes:
-            std::filesystem::remove(path);
-            std::ofstream(path, std::ios::binary) << noise(8192);
+        case Damage::junk:
+            std::ofstream(path, std::ios::binary) << kJunk;
             break;
         case Damage::cutShort:
             std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
             break;
-        case Damage::headerZeroed:
-            overwrite(path, 0, std::string(100, '\0'));
-            break;
         case Damage::pageScrambled:
-            overwrite(path, 100 * 4096, noise(4096));
+            std::fstream(path, std::ios::in | std::ios::out | std::ios::binary).seekp(100 * 4096)
+                << kJunk.substr(0, 4096);
             break;
         case Damage::folderInPlace:
             std::filesystem::remove(path);
             std::filesystem::create_directory(path);
             break;
-        case Damage::tableDropped:
-            execSql(file, "DROP TABLE dailyData");
-            break;
-        case Damage::columnDropped:
-            execSql(file, "ALTER TABLE food DROP COLUMN unit");
-            break;
-        case Damage::noProfile:
-            execSql(file, "DELETE FROM profileData WHERE id = 2");
-            break;
-        case Damage::noDays:
-            execSql(file, "DELETE FROM dailyData WHERE id >= 0");
+        default:
             break;
     }
 }
 
-HeldLock::HeldLock(const std::filesystem::path& path, const char* begin) {
-    sqlite3_open(path.c_str(), &db_);
-    if (sqlite3_exec(db_, begin, nullptr, nullptr, nullptr) != SQLITE_OK) std::abort();
-}
-
-HeldLock::~HeldLock() {
-    sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(db_);
+HeldLock holdLock(const std::filesystem::path& path, const char* begin) {
+    sqlite3* db = nullptr;
+    sqlite3_open(path.c_str(), &db);
+    if (sqlite3_exec(db, begin, nullptr, nullptr, nullptr) != SQLITE_OK) std::abort();
+    return HeldLock(db, [](sqlite3* held) {
+        sqlite3_exec(held, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_close(held);
+    });
 }
 
 std::string bytesOf(const std::filesystem::path& file) {
@@ -129,13 +101,11 @@ int inChild(const std::function<int()>& body) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-namespace {
 // Mounts made after this vanish with the child and are never seen by the rest of the system.
-bool privateMounts() {
+static bool privateMounts() {
     return unshare(CLONE_NEWNS) == 0 &&
            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
-}  // namespace
 
 bool mountSmallDisk(const std::filesystem::path& folder, size_t bytes) {
     const std::string options = "size=" + std::to_string(bytes);

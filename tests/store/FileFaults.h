@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "store/Dates.h"
@@ -22,30 +23,20 @@ std::string makePlan(const std::filesystem::path& path, int days = 366);
 enum class Damage {
     deleted,
     emptied,
-    randomBytes,
+    junk,           // 8 KiB of bytes that are no database
     cutShort,       // the second half gone, as after a copy that ran out of room
-    headerZeroed,   // the first 100 bytes
-    pageScrambled,  // one page of the food table overwritten in the middle of the file
+    pageScrambled,  // one page of the food table overwritten with junk
     folderInPlace,
     tableDropped,   // dailyData
     columnDropped,  // food.unit
     noProfile,      // the live profile row deleted
     noDays,         // the set-up stopped before the day rows
 };
-const char* describe(Damage damage);
 void damage(const std::filesystem::path& path, Damage damage);
 
-// Another program's connection holding a lock (e.g. "BEGIN EXCLUSIVE") until destroyed.
-class HeldLock {
-public:
-    HeldLock(const std::filesystem::path& path, const char* begin);
-    ~HeldLock();
-    HeldLock(const HeldLock&) = delete;
-    HeldLock& operator=(const HeldLock&) = delete;
-
-private:
-    sqlite3* db_ = nullptr;
-};
+// Another program's connection holding a lock (e.g. "BEGIN EXCLUSIVE") until it is destroyed.
+using HeldLock = std::unique_ptr<sqlite3, void (*)(sqlite3*)>;
+HeldLock holdLock(const std::filesystem::path& path, const char* begin);
 
 // Every file under folder by relative name, with its bytes; folders as "<folder>".
 std::map<std::string, std::string> snapshot(const std::filesystem::path& folder);

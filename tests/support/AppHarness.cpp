@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QQuickItem>
-#include <QQuickWindow>
 #include <QSettings>
 #include <QTest>
 #include <QWheelEvent>
@@ -20,15 +19,12 @@ namespace {
 // screens themselves are named too (by their titles); what is looked for is what is on them.
 QQuickItem* findAccessible(QAccessibleInterface* node, const QString& name, int& skip) {
     if (!node) return nullptr;
+    auto* item = qobject_cast<QQuickItem*>(node->object());
     if (node->text(QAccessible::Name) == name && !node->state().invisible &&
-        node->role() != QAccessible::Pane) {
-        if (auto* item = qobject_cast<QQuickItem*>(node->object()); item && item->isVisible()) {
-            if (skip-- == 0) return item;
-        }
-    }
-    for (int i = 0; i < node->childCount(); ++i) {
+        node->role() != QAccessible::Pane && item && item->isVisible() && skip-- == 0)
+        return item;
+    for (int i = 0; i < node->childCount(); ++i)
         if (QQuickItem* found = findAccessible(node->child(i), name, skip)) return found;
-    }
     return nullptr;
 }
 
@@ -36,10 +32,9 @@ QQuickItem* findAccessible(QAccessibleInterface* node, const QString& name, int&
 
 AppHarness::AppHarness(HarnessOptions options) : options_(options) {
     AppState::shared() = AppState{};
-    if (options_.firstTime) {
-        QSettings defaults(defaultsFile(), QSettings::IniFormat);
-        defaults.setValue("firstTime", *options_.firstTime);
-    }
+    if (options_.firstTime)
+        QSettings(dataDir() + "/defaults.ini", QSettings::IniFormat)
+            .setValue("firstTime", *options_.firstTime);
 }
 
 AppHarness::~AppHarness() {
@@ -48,12 +43,10 @@ AppHarness::~AppHarness() {
 }
 
 std::string AppHarness::prepareDatabase() {
-    const std::string path = databasePath();
-    std::filesystem::copy_file(FOOD_DB_PATH, path,
-                               std::filesystem::copy_options::overwrite_existing);
-    std::filesystem::permissions(path, std::filesystem::perms::owner_write,
-                                 std::filesystem::perm_options::add);
-    return path;
+    namespace fs = std::filesystem;
+    fs::copy_file(FOOD_DB_PATH, databasePath(), fs::copy_options::overwrite_existing);
+    fs::permissions(databasePath(), fs::perms::owner_write, fs::perm_options::add);
+    return databasePath();
 }
 
 void AppHarness::launch() {
@@ -63,14 +56,14 @@ void AppHarness::launch() {
     // the test put a database in place itself, it gets the plan set-up would have made today.
     if (options_.firstTime == QString("no") && !std::filesystem::exists(databasePath()))
         writePlan(prepareDatabase(), Clock::now(), "1850", 366);
-    LaunchOptions launch;
-    launch.pad = options_.pad;
-    launch.screen = options_.screen.isEmpty() ? (options_.pad ? QSize(768, 1024) : QSize(320, 568))
-                                              : options_.screen;
-    launch.window = options_.window;
-    launch.dataDir = dataDir();
-    launch.launchHoldMs = options_.launchHoldMs;
-    delegate_ = std::make_unique<AppDelegate>(launch);
+    const QSize idiom = options_.pad ? QSize(768, 1024) : QSize(320, 568);
+    delegate_ = std::make_unique<AppDelegate>(LaunchOptions{
+        .pad = options_.pad,
+        .screen = options_.screen.isEmpty() ? idiom : options_.screen,
+        .window = options_.window,
+        .dataDir = dataDir(),
+        .launchHoldMs = 0,
+    });
     delegate_->didFinishLaunchingWithOptions();
     settle();
 }
@@ -78,6 +71,7 @@ void AppHarness::launch() {
 void AppHarness::settle(int ms) {
     // Whatever moves keeps the window drawing: it has settled once no frame has come for a few
     // frame times, or after ms at the latest.
+    constexpr int kQuietMs = 80;
     QElapsedTimer quiet;
     quiet.start();
     const QMetaObject::Connection frames =
@@ -104,26 +98,21 @@ QQuickItem* AppHarness::layoutOf(const QObject* screen) {
 }
 
 QQuickItem* AppHarness::findByName(const QString& name, int occurrence) {
-    int skip = occurrence;
-    return findAccessible(QAccessible::queryAccessibleInterface(quickWindow()), name, skip);
+    return findAccessible(QAccessible::queryAccessibleInterface(quickWindow()), name, occurrence);
 }
 
 bool AppHarness::click(const QString& name, int occurrence) {
     QQuickItem* item = findByName(name, occurrence);
     if (!item) return false;
-    clickAt(item->mapToScene(QPointF(item->width() / 2, item->height() / 2)));
-    return true;
-}
-
-void AppHarness::clickAt(QPointF point) {
-    QTest::mouseClick(quickWindow(), Qt::LeftButton, Qt::NoModifier, point.toPoint());
+    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(quickWindow(), Qt::LeftButton, Qt::NoModifier, centre.toPoint());
     settle();
+    return true;
 }
 
 bool AppHarness::press(const QString& name) {
     QQuickItem* item = findByName(name);
-    if (!item) return false;
-    QAccessibleInterface* node = QAccessible::queryAccessibleInterface(item);
+    QAccessibleInterface* node = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
     if (!node || !node->actionInterface()) return false;
     node->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     settle();
@@ -138,10 +127,6 @@ void AppHarness::type(const QString& text) {
 void AppHarness::key(Qt::Key key, int times) {
     for (int i = 0; i < times; ++i) QTest::keyClick(quickWindow(), key);
     settle(50);
-}
-
-QQuickItem* AppHarness::focused() {
-    return quickWindow()->activeFocusItem();
 }
 
 bool AppHarness::tabTo(const QString& name) {
@@ -160,36 +145,27 @@ bool AppHarness::tabTo(const QString& name) {
 void AppHarness::drag(QPointF from, qreal dy) {
     QQuickWindow* window = quickWindow();
     const QPoint start = from.toPoint();
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
     const int steps = 12;
-    for (int i = 1; i <= steps; ++i) {
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+    for (int i = 1; i <= steps; ++i)
         QTest::mouseMove(window, start + QPoint(0, int(dy * i / steps)), 16);
-    }
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(0, int(dy)), 16);
     settle(900);
 }
 
 void AppHarness::scroll(QPointF at, int notches) {
-    const QPoint delta(0, -120 * notches);
-    QWheelEvent event(at, quickWindow()->mapToGlobal(at), QPoint(), delta, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent event(at, quickWindow()->mapToGlobal(at), QPoint(), QPoint(0, -120 * notches),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(quickWindow(), &event);
     settle(50);
 }
 
 bool AppHarness::turn(const QString& title, int rows) {
-    return turn(findByName(title), rows);
-}
-
-bool AppHarness::turn(QQuickItem* wheel, int rows) {
+    QQuickItem* wheel = findByName(title);
     if (!wheel) return false;
     drag(wheel->mapToScene(QPointF(wheel->width() / 2, wheel->height() / 2)),
          -rows * wheel->height() / 5);
     return QTest::qWaitFor([wheel] { return !wheel->property("moving").toBool(); }, 10000);
-}
-
-QImage AppHarness::grab() {
-    return quickWindow()->grabWindow();
 }
 
 QString AppHarness::saveScreenshot(const QString& name) {

@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QQuickWindow>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -19,7 +20,6 @@ struct HarnessOptions {
     std::optional<QString> firstTime;  // the defaults' "firstTime" before launch; absent if empty
     QSize screen;                      // empty: the idiom's size
     QSize window;                      // empty: the screen's size
-    int launchHoldMs = 0;
 };
 
 class AppHarness {
@@ -40,26 +40,21 @@ public:
     QQuickWindow* quickWindow() { return delegate_->quickWindow(); }
     QString dataDir() const { return QString::fromStdString(dir_.path().string()); }
     std::string databasePath() const { return dir_.file("food.db"); }
-    QString defaultsFile() const { return dataDir() + "/defaults.ini"; }
 
-    // Lets animations and deferred work run: returns once the window has drawn nothing new for
-    // kQuietMs, or after ms at the latest.
+    // Lets animations and deferred work run: returns once the window has drawn nothing new for a
+    // few frame times, or after ms at the latest.
     void settle(int ms = 450);
-    static constexpr int kQuietMs = 80;
 
     // The item whose accessible name is name (the first in tree order that is visible), or null.
     QQuickItem* findByName(const QString& name, int occurrence = 0);
     // Clicks the centre of the named item with a real mouse press and release; false if absent.
     bool click(const QString& name, int occurrence = 0);
-    void clickAt(QPointF windowPoint);
     // Presses the named control through its accessibility action, as a screen reader does.
     bool press(const QString& name);
-    // Types text into the focused item with real key events.
+    // Real key events, on whatever has the keyboard.
     void type(const QString& text);
-    // Presses and releases key, times times over, on whatever has the keyboard.
     void key(Qt::Key key, int times = 1);
-    // The item that has the keyboard, or null.
-    QQuickItem* focused();
+    QQuickItem* focused() { return quickWindow()->activeFocusItem(); }
     // Presses Tab until an item of that accessible name has the keyboard; false if none gets it.
     bool tabTo(const QString& name);
     // Drags vertically from a window point by dy (a wheel turn).
@@ -70,12 +65,11 @@ public:
     // until it has come to rest, as the choice is made only then; false if it is absent or still
     // turning after ten seconds.
     bool turn(const QString& title, int rows);
-    bool turn(QQuickItem* wheel, int rows);
 
     // The item of the layout drawing screen, or null while it is not drawn.
     QQuickItem* layoutOf(const QObject* screen);
 
-    QImage grab();
+    QImage grab() { return quickWindow()->grabWindow(); }
     // Saves under the build folder's screenshots/; returns the path.
     QString saveScreenshot(const QString& name);
 

@@ -4,7 +4,6 @@
 #include <sqlite3.h>
 #include <unicode/timezone.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <ctime>
@@ -30,12 +29,6 @@ LogCapture::LogCapture() {
 LogCapture::~LogCapture() {
     devlog::setSink(nullptr);
     devlog::setEnabled(false);
-}
-
-bool LogCapture::contains(std::string_view line) const { return count(line) > 0; }
-
-size_t LogCapture::count(std::string_view line) const {
-    return static_cast<size_t>(std::count(lines_.begin(), lines_.end(), line));
 }
 
 ScopedTimeZone::ScopedTimeZone(const char* id) {
@@ -65,8 +58,7 @@ void execSql(const std::string& path, const char* sql) {
     sqlite3* db = nullptr;
     ASSERT_EQ(sqlite3_open(path.c_str(), &db), SQLITE_OK);
     char* error = nullptr;
-    const int rc = sqlite3_exec(db, sql, nullptr, nullptr, &error);
-    EXPECT_EQ(rc, SQLITE_OK) << (error ? error : "");
+    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, &error), SQLITE_OK) << (error ? error : "");
     sqlite3_free(error);
     sqlite3_close(db);
 }

@@ -1,6 +1,7 @@
 #pragma once
 // Test fixtures that use the real things: folders on disk, the real log, ICU's zone and clock.
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,13 +9,18 @@
 
 #include "store/Dates.h"
 
+// Each fixture undoes on destruction what it set up: none can be copied.
+struct NoCopy {
+    NoCopy() = default;
+    NoCopy(const NoCopy&) = delete;
+    NoCopy& operator=(const NoCopy&) = delete;
+};
+
 // A fresh folder under the system's temporary folder, removed with everything in it.
-class TempDir {
+class TempDir : NoCopy {
 public:
     TempDir();
     ~TempDir();
-    TempDir(const TempDir&) = delete;
-    TempDir& operator=(const TempDir&) = delete;
     const std::filesystem::path& path() const { return path_; }
     std::string file(std::string_view name) const { return (path_ / name).string(); }
 
@@ -23,40 +29,35 @@ private:
 };
 
 // Switches the developer log on and collects its lines for as long as it lives.
-class LogCapture {
+class LogCapture : NoCopy {
 public:
     LogCapture();
     ~LogCapture();
-    LogCapture(const LogCapture&) = delete;
-    LogCapture& operator=(const LogCapture&) = delete;
     const std::vector<std::string>& lines() const { return lines_; }
-    bool contains(std::string_view line) const;
-    size_t count(std::string_view line) const;
+    bool contains(std::string_view line) const { return count(line) > 0; }
+    size_t count(std::string_view line) const {
+        return std::count(lines_.begin(), lines_.end(), line);
+    }
 
 private:
     std::vector<std::string> lines_;
 };
 
 // Makes an ICU time zone the default for as long as it lives.
-class ScopedTimeZone {
+class ScopedTimeZone : NoCopy {
 public:
     explicit ScopedTimeZone(const char* id);
     ~ScopedTimeZone();
-    ScopedTimeZone(const ScopedTimeZone&) = delete;
-    ScopedTimeZone& operator=(const ScopedTimeZone&) = delete;
 
 private:
     std::string previous_;
 };
 
 // Fixes Clock::now() for as long as it lives.
-class FixedClock {
+class FixedClock : NoCopy {
 public:
     explicit FixedClock(Instant now);
     ~FixedClock();
-    FixedClock(const FixedClock&) = delete;
-    FixedClock& operator=(const FixedClock&) = delete;
-    void set(Instant now) { now_ = now; }
 
 private:
     Instant now_;
