@@ -25,11 +25,6 @@ namespace {
 
 constexpr int kDeadlineMs = 120000;  // a sanitizer build on a busy machine starts slowly
 
-std::string contents(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 QString q(const fs::path& path) { return QString::fromStdString(path.string()); }
 
 std::unique_ptr<QProcess> start(const fs::path& dataDir, const QStringList& extra, bool display) {
@@ -113,8 +108,8 @@ TEST(DataCommands, APlanTakenThroughEveryCommandKeepsItsDays) {
     EXPECT_EQ(dayInFile(keptAs(run(to, {"--restore", "latest"}).out).string(), 0), "999 0");
     EXPECT_EQ(dayInFile(live.string(), 0), "700 0");
 
-    const std::string before = contents(live);
-    EXPECT_TRUE(contents(keptAs(run(to, {"--new-plan"}).out)) == before);
+    const std::string before = bytesOf(live);
+    EXPECT_TRUE(bytesOf(keptAs(run(to, {"--new-plan"}).out)) == before);
     EXPECT_TRUE(startRunsTheSetUp(to));
 }
 
@@ -156,7 +151,7 @@ TEST(Program, WhatItCannotDoItRefusesWithTheReasonAndLeavesThePlanFileAsItWas) {
         SCOPED_TRACE((c.arguments.join(" ") + " → " + c.says).toStdString());
         const DataFolder folder(Clock::now() - 24h * 366 - 3h);  // its 366 days are over
         if (c.breakage) c.breakage(folder.database);
-        const std::string before = contents(folder.database);
+        const std::string before = bytesOf(folder.database);
         // Bad input is parsed again once the GUI platform has taken its own options.
         const Ran ran = run(folder.path, c.arguments, c.arguments.isEmpty() || c.status == 2);
         EXPECT_EQ(ran.status, c.status);
@@ -167,7 +162,7 @@ TEST(Program, WhatItCannotDoItRefusesWithTheReasonAndLeavesThePlanFileAsItWas) {
             if (line.startsWith("  calorie-counter --")) offered += line.section(' ', 3, 3) + ' ';
         EXPECT_EQ(offered.toStdString(), c.ways);
         // A deleted file has nothing to keep.
-        EXPECT_TRUE(before.empty() || contents(folder.database) == before);
+        EXPECT_TRUE(before.empty() || bytesOf(folder.database) == before);
         EXPECT_EQ(firstTime(folder.path), "no");
         EXPECT_FALSE(fs::exists(folder.path / "backups"));
     }
@@ -186,7 +181,7 @@ TEST(Program, WhileACopyRunsOnlyReadingItsDataFolderGoesAhead) {
     ASSERT_EQ(first->state(), QProcess::Running) << first->readAllStandardError().toStdString();
     const QString busy = "calorie-counter: the program is already running with the data folder " +
                          q(folder.path) + QString(" (process %1)").arg(first->processId());
-    const std::string before = contents(folder.database);
+    const std::string before = bytesOf(folder.database);
     const fs::path backup = folder.beside / "plan.db";
     const std::pair<QStringList, QString> cases[] = {
         {{"--backup", q(backup)}, "Backed up to "},
@@ -200,7 +195,7 @@ TEST(Program, WhileACopyRunsOnlyReadingItsDataFolderGoesAhead) {
         const Ran ran = run(folder.path, arguments, arguments.isEmpty());
         EXPECT_EQ(ran.status, says == busy ? 1 : 0);
         EXPECT_TRUE((ran.out + ran.err).contains(says)) << ran.err.toStdString();
-        EXPECT_TRUE(contents(folder.database) == before);
+        EXPECT_TRUE(bytesOf(folder.database) == before);
         EXPECT_EQ(firstTime(folder.path), "no");
     }
     EXPECT_EQ(first->state(), QProcess::Running);

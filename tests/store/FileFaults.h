@@ -40,7 +40,6 @@ HeldLock holdLock(const std::filesystem::path& path, const char* begin);
 
 // Every file under folder by relative name, with its bytes; folders as "<folder>".
 std::map<std::string, std::string> snapshot(const std::filesystem::path& folder);
-std::string bytesOf(const std::filesystem::path& file);
 
 // Runs body in a forked child and returns its exit status, or 128 + the signal that ended it.
 int inChild(const std::function<int()>& body);

@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 #include <filesystem>
 
+#include "overlay/StatusOverlay.h"
 #include "store/AppState.h"
 #include "ui/TabBarController.h"
 
@@ -101,11 +102,18 @@ QQuickItem* AppHarness::findByName(const QString& name, int occurrence) {
     return findAccessible(QAccessible::queryAccessibleInterface(quickWindow()), name, occurrence);
 }
 
+QPointF centre(const QQuickItem* item) {
+    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+}
+
+bool overlayGone() {
+    return QTest::qWaitFor([] { return !StatusOverlay::shared().isShown(); }, 5000);
+}
+
 bool AppHarness::click(const QString& name, int occurrence) {
     QQuickItem* item = findByName(name, occurrence);
     if (!item) return false;
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(quickWindow(), Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    QTest::mouseClick(quickWindow(), Qt::LeftButton, Qt::NoModifier, centre(item).toPoint());
     settle();
     return true;
 }

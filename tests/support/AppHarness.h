@@ -15,6 +15,11 @@
 
 class QQuickItem;
 
+// An item's centre in window coordinates, where a click or a tap lands.
+QPointF centre(const QQuickItem* item);
+// Waits until the status overlay has gone; false if it is still up after five seconds.
+bool overlayGone();
+
 struct HarnessOptions {
     bool pad = false;
     std::optional<QString> firstTime;  // the defaults' "firstTime" before launch; absent if empty

@@ -5,6 +5,7 @@
 #include <unicode/timezone.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <ctime>
 
@@ -91,6 +92,11 @@ void writePlan(const std::string& path, Instant start, const char* budget, int d
                ", 0, 0);";
     }
     execSql(path, sql.c_str());
+}
+
+std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 std::string dayInFile(const std::string& path, int64_t id) {

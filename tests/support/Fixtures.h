@@ -70,6 +70,8 @@ Instant utc(const char* text);
 void execSql(const std::string& path, const char* sql);
 // The first column of every row of a query, as text.
 std::vector<std::string> queryColumn(const std::string& path, const char* sql);
+// A file's bytes; empty when it cannot be read.
+std::string bytesOf(const std::filesystem::path& file);
 // Day id's consumed and burned calories as the file holds them, "consumed burned"; empty when
 // there is no such day.
 std::string dayInFile(const std::string& path, int64_t id);

@@ -21,10 +21,6 @@
 
 namespace {
 
-bool settledHidden() {
-    return QTest::qWaitFor([] { return !StatusOverlay::shared().isShown(); }, 3000);
-}
-
 // Three days into a 1850-calorie plan, with calories booked yesterday and today.
 class Dashboard : public testing::TestWithParam<bool> {
 protected:
@@ -85,7 +81,7 @@ TEST_P(Dashboard, ADayUpdateShowsTheOverlayAndTodayDismissesIt) {
     EXPECT_NE(app.findByName("In progress"), nullptr);
     app.saveScreenshot(idiom() + "-overlay");
     ASSERT_TRUE(app.click("Today"));
-    EXPECT_TRUE(settledHidden());
+    EXPECT_TRUE(overlayGone());
     EXPECT_NE(app.findByName("1500 Cal"), nullptr);
 
     StatusOverlay::show("Saving", false);
@@ -93,7 +89,7 @@ TEST_P(Dashboard, ADayUpdateShowsTheOverlayAndTodayDismissesIt) {
     app.click("Log");
     EXPECT_EQ(AppState::shared().tabBarController->selectedIndex(), 0);
     StatusOverlay::dismiss();
-    EXPECT_TRUE(settledHidden());
+    EXPECT_TRUE(overlayGone());
 }
 
 // A day of switching tabs piles a budget line and label pair up on every appearance of either

@@ -9,7 +9,6 @@
 #include <cmath>
 
 #include "exercise/DurationScreens.h"
-#include "overlay/StatusOverlay.h"
 #include "support/AppHarness.h"
 #include "ui/Finger.h"
 
@@ -100,7 +99,7 @@ TEST_P(Exercise, SearchedAndIndexedOnTheExerciseTabAndBookedFromToday) {
     app.type("300");
     app.saveScreenshot(idiom + "-custom-exercise");
     ASSERT_TRUE(app.click("Done"));
-    ASSERT_TRUE(QTest::qWaitFor([] { return !StatusOverlay::shared().isShown(); }, 5000));
+    ASSERT_TRUE(overlayGone());
     EXPECT_EQ(dayInFile(db, 2),
               std::to_string(1240 - 300 - booked) + " " + std::to_string(booked + 300));
 }

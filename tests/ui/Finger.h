@@ -14,10 +14,6 @@
 // A Linux phone's window: the phone's canvas scaled by 1.125.
 inline constexpr QSize kPhoneWindow(360, 720);
 
-inline QPointF centre(const QQuickItem* item) {
-    return item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-}
-
 inline bool atRest(QQuickItem* flickable) {
     return QTest::qWaitFor([flickable] { return !flickable->property("moving").toBool(); }, 10000);
 }

@@ -9,7 +9,6 @@
 
 #include "food/FoodScreen.h"
 #include "food/SearchFoodScreen.h"
-#include "overlay/StatusOverlay.h"
 #include "support/AppHarness.h"
 #include "ui/Finger.h"
 
@@ -83,7 +82,7 @@ TEST_P(Food, ResultsWalkedByKeyboardOnTheFoodTabAndBookedFromToday) {
                                    ((portions + 1) * 114 + fraction) + ((portions + 2) * 114 + fraction));
 
     ASSERT_TRUE(app.click("Done"));
-    ASSERT_TRUE(QTest::qWaitFor([] { return !StatusOverlay::shared().isShown(); }, 5000));
+    ASSERT_TRUE(overlayGone());
     EXPECT_NE(app.findByName(QString("%1 Cal").arg(booked)), nullptr);
     EXPECT_EQ(dayInFile(app.databasePath(), 0), std::to_string(booked) + " 0");
 }
